@@ -1,0 +1,48 @@
+// Drawn decoration: staves, clefs and notes, the backdrop of the main window, the spine of a screen, tabs.
+#pragma once
+
+#include "platform/forms/look.h"
+#include "platform/forms/scale.h"
+#include <QPainter>
+
+namespace zv::forms {
+
+/// Gradient, light and staves of the main window. block: the screens' rectangle, which gets its shadow (may be empty).
+void paintBackdrop(QPainter& painter, const QRect& client, const QRect& block, const Scale& scale);
+
+/// A treble clef whose staff has its five lines `gap` apart around `centre` (pixels), its left edge at x.
+void paintClef(QPainter& painter, double x, double centre, double gap, const QColor& colour);
+
+/// A staff of five lines with or without a clef and some notes, all in twips.
+struct Staff {
+    int Left, Width, Centre, Gap;
+    bool clef = true, notes = true;
+};
+void paintStaff(QPainter& painter, const Staff& staff, const QColor& colour, const Scale& scale);
+
+/// Light and dark edge of a screen of that size in pixels, and its ground.
+void paintScreenEdge(QPainter& painter, const QRect& screen, const Scale& scale);
+
+/// Five hairlines at the right of a screen broken by "- Zarvelia -" reading upwards.
+void paintSpine(QPainter& painter, const Scale& scale);
+
+/// What stands behind the left column of an editor or a Select screen.
+enum class Background { Add, ShowEdit, Select };
+void paintBackground(QPainter& painter, Background background, const Scale& scale);
+
+/// How one tab is drawn. rect: the tab with its gap to the next, from the top of its row to its foot, in pixels.
+struct TabLook {
+    QRect rect;
+    QString caption; // drawn trimmed
+    bool chosen = false, hovered = false, focused = false, enabled = true;
+};
+void paintTab(QPainter& painter, const TabLook& tab, const Scale& scale);
+
+/// Bands, lines, motif staff and padlock of the strip, 10320 x 1275 twips, behind its tabs.
+enum class StripRows { Three, Two, One };
+void paintStrip(QPainter& painter, StripRows rows, bool locked, const Scale& scale);
+
+/// A drawing of the program's own, rendered sharp at that size: "compositor", "logo", "icon" and so on.
+QPixmap drawing(const QString& name, QSize pixels, double devicePixelRatio = 1.0);
+
+} // namespace zv::forms
