@@ -1,0 +1,202 @@
+#include "platform/forms/flex_grid.h"
+
+#include <QHeaderView>
+#include <QWheelEvent>
+
+namespace zv::forms {
+
+FlexGrid::FlexGrid(QWidget* parent) : Control(parent) {
+    setRole(this, Role::Grid);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(0);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->hide();
+    horizontalHeader()->setMinimumSectionSize(0);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int pixels) {
+        // Only a drag changes a width; a layout merely renders it.
+        if (!laying_ && scale()) widths_[std::size_t(column)] = qRound(scale()->twips(pixels));
+    });
+    connect(this, &QTableWidget::cellClicked, this, [this] { fire(Click); });
+    connect(this, &QTableWidget::cellDoubleClicked, this, [this] { fire(DblClick); });
+}
+
+void FlexGrid::setRows(int rows) {
+    if (rows < 0) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
+    if (rows == 0) fixed_ = 0;
+    rows_ = rows;
+    heights_.resize(std::size_t(rows), -1);
+    row_ = std::min(row_, std::max(0, rows - 1));
+    setRowCount(std::max(0, rows - fixed_));
+    horizontalHeader()->setVisible(fixed_ == 1);
+    layoutSizes();
+}
+
+void FlexGrid::setCols(int cols) {
+    if (cols < 0) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
+    widths_.resize(std::size_t(cols), -1);
+    col_ = std::min(col_, std::max(0, cols - 1));
+    setColumnCount(cols);
+    layoutSizes();
+}
+
+void FlexGrid::setFixedRows(int rows) {
+    if (rows > rows_ - 1 || rows < 0 || rows > 1)
+        throw RuntimeError(30016, QStringLiteral("FixedRows must be at least one less than Rows value"));
+    if (rows == fixed_) return;
+    fixed_ = rows;
+    setRowCount(rows_ - fixed_);
+    horizontalHeader()->setVisible(fixed_ == 1);
+    layoutSizes();
+}
+
+void FlexGrid::setRowHeightMin(int twips) {
+    minHeight_ = twips;
+    layoutSizes();
+}
+
+void FlexGrid::setRow(int row) {
+    if (row < 0 || row >= rows_) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
+    row_ = row;
+}
+
+void FlexGrid::setCol(int col) {
+    if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
+    col_ = col;
+}
+
+int FlexGrid::RowSel() const { return currentRow() < 0 ? row_ : currentRow() + fixed_; }
+
+void FlexGrid::check(int row, int col) const {
+    if (row < 0 || row >= rows_) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
+    if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
+}
+
+QTableWidgetItem* FlexGrid::cell(int row, int col) {
+    check(row, col);
+    QTableWidgetItem* found = isHeading(row) ? horizontalHeaderItem(col) : item(row - fixed_, col);
+    if (found) return found;
+    found = new QTableWidgetItem;
+    found->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    if (isHeading(row))
+        setHorizontalHeaderItem(col, found);
+    else
+        setItem(row - fixed_, col, found);
+    return found;
+}
+
+QString FlexGrid::TextMatrix(int row, int col) const {
+    check(row, col);
+    const QTableWidgetItem* found = isHeading(row) ? horizontalHeaderItem(col) : item(row - fixed_, col);
+    return found ? found->text() : QString();
+}
+
+void FlexGrid::setText(const QString& text) {
+    // The toolkit draws a carriage return as a blank.
+    QString lines = text;
+    cell(row_, col_)->setText(lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n'));
+}
+
+void FlexGrid::setCellForeColor(const QColor& colour) { cell(row_, col_)->setForeground(colour); }
+
+void FlexGrid::setCellBackColor(const QColor& colour) { cell(row_, col_)->setBackground(colour); }
+
+void FlexGrid::setCellAlignment(Qt::Alignment alignment) { cell(row_, col_)->setTextAlignment(alignment); }
+
+int FlexGrid::ColWidth(int col) const {
+    check(rows_ ? 0 : -1, col);
+    const int set = widths_[std::size_t(col)];
+    return set < 0 ? defaultWidth_ : set;
+}
+
+void FlexGrid::setColWidth(int col, int twips) {
+    if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
+    widths_[std::size_t(col)] = twips;
+    layoutSizes();
+}
+
+int FlexGrid::RowHeight(int row) const {
+    const int set = heights_.at(std::size_t(row));
+    return std::max(minHeight_, set < 0 ? 240 : set);
+}
+
+void FlexGrid::setRowHeight(int row, int twips) {
+    check(row, 0);
+    heights_[std::size_t(row)] = twips;
+    layoutSizes();
+}
+
+void FlexGrid::RemoveItem(int row) {
+    if (isHeading(row)) throw RuntimeError(30000, QStringLiteral("Invalid row"));
+    if (row < 0 || row >= rows_) throw RuntimeError(30002, QStringLiteral("Invalid row"));
+    if (rows_ - fixed_ == 1) throw RuntimeError(30015, QStringLiteral("Can not remove last non-fixed row"));
+    removeRow(row - fixed_);
+    heights_.erase(heights_.begin() + row);
+    --rows_;
+    row_ = std::min(row_, rows_ - 1);
+    layoutSizes();
+}
+
+void FlexGrid::Clear() { clear(); }
+
+// Edges are rounded, not sizes, so that rows and the pictures beside them never drift apart.
+void FlexGrid::layoutSizes() {
+    if (!scale() || laying_) return;
+    laying_ = true;
+    int left = 0;
+    for (int col = 0; col < Cols(); ++col) {
+        const int set = widths_[std::size_t(col)];
+        const int width = set < 0 ? defaultWidth_ : set;
+        setColumnWidth(col, scale()->px(left + width) - scale()->px(left));
+        left += width;
+    }
+    const int heading = fixed_ ? RowHeight(0) : 0;
+    if (fixed_) horizontalHeader()->setFixedHeight(scale()->px(heading));
+    int top = heading;
+    for (int row = fixed_; row < rows_; ++row) {
+        const int height = RowHeight(row);
+        verticalHeader()->resizeSection(row - fixed_, scale()->px(top + height) - scale()->px(top));
+        top += height;
+    }
+    laying_ = false;
+}
+
+void FlexGrid::applyScale(const Scale& scale) {
+    Placed::applyScale(scale);
+    horizontalHeader()->setFont(scale.font(typeHeight(), true));
+    layoutSizes();
+}
+
+void FlexGrid::clearHandlers() {
+    Click = DblClick = GotFocus = nullptr;
+    Wheel = nullptr;
+}
+
+void FlexGrid::focusInEvent(QFocusEvent* event) {
+    QTableWidget::focusInEvent(event);
+    if (isFocusGain(event->reason())) fire(GotFocus);
+}
+
+void FlexGrid::wheelEvent(QWheelEvent* event) {
+    if (!Wheel) {
+        QTableWidget::wheelEvent(event);
+        return;
+    }
+    const int steps = event->angleDelta().y() / 120;
+    event->accept();
+    if (steps != 0)
+        fire([this, steps] {
+            if (Wheel) Wheel(steps);
+        });
+}
+
+} // namespace zv::forms

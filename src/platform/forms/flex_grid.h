@@ -1,0 +1,70 @@
+// The grid of the screens. Rows and columns are counted from 0, a fixed first row is the heading; widths and heights
+// are twips. A width changes only by the logic or by a drag.
+#pragma once
+
+#include "platform/forms/placed.h"
+#include <QTableWidget>
+
+namespace zv::forms {
+
+class FlexGrid : public Control<QTableWidget> {
+  public:
+    explicit FlexGrid(QWidget* parent);
+
+    Handler Click, DblClick, GotFocus;
+    /// Takes turns of the wheel (steps, positive away from the user) in place of the grid's own scrolling.
+    std::function<void(int)> Wheel;
+
+    int Rows() const { return rows_; }
+    int Cols() const { return columnCount(); }
+    /// 0 empties the grid. New columns have the default width. Errors 30009 and 30010 for negative counts.
+    void setRows(int rows);
+    void setCols(int cols);
+    /// 1 makes the first row the heading. Error 30016 if no other row is left.
+    void setFixedRows(int rows);
+    void setDefaultColWidth(int twips) { defaultWidth_ = twips; }
+    /// Height in twips of rows that the logic has not set.
+    void setRowHeightMin(int twips);
+
+    int Row() const { return row_; }
+    int Col() const { return col_; }
+    void setRow(int row);
+    void setCol(int col);
+    /// The row that the user has chosen.
+    int RowSel() const;
+    QString Text() const { return TextMatrix(row_, col_); }
+    void setText(const QString& text);
+    QString TextMatrix(int row, int col) const;
+    void setCellForeColor(const QColor& colour);
+    void setCellBackColor(const QColor& colour);
+    void setCellAlignment(Qt::Alignment alignment);
+
+    int ColWidth(int col) const;
+    void setColWidth(int col, int twips);
+    int RowHeight(int row) const;
+    void setRowHeight(int row, int twips);
+    /// Errors 30002 for an absent row, 30015 for the last one.
+    void RemoveItem(int row);
+    void Clear();
+
+    void applyScale(const Scale& scale) override;
+    void clearHandlers() override;
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    bool isHeading(int row) const { return fixed_ == 1 && row == 0; }
+    QTableWidgetItem* cell(int row, int col);
+    void layoutSizes();
+    void check(int row, int col) const;
+
+    int rows_ = 0, fixed_ = 0;
+    int row_ = 0, col_ = 0;
+    int defaultWidth_ = 960, minHeight_ = 240;
+    std::vector<int> widths_, heights_; ///< twips
+    bool laying_ = false;
+};
+
+} // namespace zv::forms

@@ -1,0 +1,43 @@
+#include "platform/forms/placed.h"
+
+#include <QHelpEvent>
+#include <QToolTip>
+
+namespace zv::forms {
+
+void Placed::place(const TwipsRect& rect) {
+    rect_ = rect;
+    if (scale_) widget()->setGeometry(scale_->rect(rect_));
+}
+
+void Placed::setType(int heightTwips, bool bold) {
+    typeHeight_ = heightTwips;
+    bold_ = bold;
+    if (scale_) widget()->setFont(scale_->font(typeHeight_, bold_));
+}
+
+void Placed::setToolTipText(const QString& text) {
+    tip_ = text;
+    widget()->setToolTip(text);
+}
+
+void Placed::applyScale(const Scale& scale) {
+    scale_ = &scale;
+    widget()->setGeometry(scale.rect(rect_));
+    widget()->setFont(scale.font(typeHeight_, bold_));
+}
+
+bool Placed::showTip(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return false;
+    if (tip_.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip_.toHtmlEscaped(), widget());
+    return true;
+}
+
+bool isFocusGain(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
+}
+
+} // namespace zv::forms

@@ -1,0 +1,127 @@
+#include "platform/forms/text_box.h"
+
+namespace zv::forms {
+
+TextBox::TextBox(QWidget* parent) : Control(parent) {
+    setRole(this, Role::TextBox);
+    setFrame(true);
+    setBackColor(colour::Panel);
+    connect(this, &QLineEdit::textChanged, this, [this] { fire(Change); });
+}
+
+void TextBox::setBackColor(const QColor& colour) {
+    QPalette changed = palette();
+    changed.setColor(QPalette::Base, colour);
+    setPalette(changed);
+}
+
+void TextBox::setLocked(bool locked) {
+    setReadOnly(locked);
+    setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
+}
+
+void TextBox::clearHandlers() {
+    Change = GotFocus = nullptr;
+    KeyPress = nullptr;
+}
+
+void TextBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (!isFocusGain(event->reason())) return;
+    pressGaveFocus_ = event->reason() == Qt::MouseFocusReason;
+    fire(GotFocus);
+}
+
+// The click that gives the focus must not undo the selection that gaining it made.
+void TextBox::mousePressEvent(QMouseEvent* event) {
+    if (pressGaveFocus_)
+        event->accept();
+    else
+        QLineEdit::mousePressEvent(event);
+}
+
+void TextBox::mouseMoveEvent(QMouseEvent* event) {
+    if (!pressGaveFocus_) QLineEdit::mouseMoveEvent(event);
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (pressGaveFocus_)
+        pressGaveFocus_ = false;
+    else
+        QLineEdit::mouseReleaseEvent(event);
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+    pressGaveFocus_ = false;
+    if (KeyPress && event->text().size() == 1 && !KeyPress(event->text().front())) {
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+Memo::Memo(QWidget* parent) : Control(parent) {
+    setRole(this, Role::TextBox);
+    setTabChangesFocus(true);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        // The toolkit also fires on an equal text and on changes of format.
+        if (setting_) return;
+        QString now = Text();
+        if (now == last_) return;
+        last_ = std::move(now);
+        fire(Change);
+    });
+}
+
+QString Memo::plain() const { return document()->toRawText(); }
+
+QString Memo::Text() const {
+    const QString raw = plain();
+    if (raw == setPlain_) return set_;
+    const bool lineFeedsOnly = set_.contains(u'\n') && !set_.contains(u'\r');
+    QString text;
+    text.reserve(raw.size() + 16);
+    for (const QChar c : raw) {
+        if (c != QChar::ParagraphSeparator && c != QChar::LineSeparator)
+            text += c;
+        else if (lineFeedsOnly)
+            text += u'\n';
+        else
+            text += QLatin1String("\r\n");
+    }
+    return text;
+}
+
+void Memo::setText(const QString& text) {
+    if (text == Text()) return;
+    setting_ = true;
+    setPlainText(text);
+    setting_ = false;
+    set_ = text;
+    setPlain_ = plain();
+    last_ = text;
+    fire(Change);
+}
+
+void Memo::setLocked(bool locked) {
+    setReadOnly(locked);
+    setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
+}
+
+void Memo::applyScale(const Scale& scale) {
+    Placed::applyScale(scale);
+    document()->setDocumentMargin(scale.px(60));
+}
+
+void Memo::clearHandlers() { Change = GotFocus = nullptr; }
+
+void Memo::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    if (isFocusGain(event->reason())) fire(GotFocus);
+}
+
+} // namespace zv::forms

@@ -1,0 +1,141 @@
+// The controls of the Select screens: what stands where, and which handler each one runs.
+#include "platform/forms/decoration.h"
+#include "platform/forms/picture.h"
+#include "selection/select_screen.h"
+#include "selection/select_words.h"
+
+namespace zv::selection {
+
+using namespace Qt::StringLiterals;
+using namespace forms;
+
+namespace {
+
+constexpr auto Left = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr auto Right = Qt::AlignRight | Qt::AlignVCenter;
+
+Label* dress(Label* label, Role role, const QString& text, int height, bool bold, Qt::Alignment alignment) {
+    setRole(label, role);
+    label->setType(height, bold);
+    label->setAlignment(alignment);
+    label->setCaption(text);
+    return label;
+}
+
+} // namespace
+
+SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QString& name, const store::KindInfo& kind)
+    : Screen(context, parent, name), kind_(kind) {
+    auto* emblem = add<Picture>({}, {240, 240, 3000, 3000});
+    emblem->setPicture({{}, kind.drawing.toString(), {3000, 3000}});
+    LabBaseDatos = dress(add<Label>(u"LabBaseDatos"_s, {240, 3360, 3000, 420}), Role::Heading, kind.title.toString(),
+                         type::Database, true, Qt::AlignCenter);
+    addCounters();
+    const auto button = [this](const QString& name_, const QString& caption, const QString& tip, TwipsRect rect,
+                               void (SelectScreen::*click)()) {
+        auto* made = add<Button>(name_, rect);
+        made->setText(caption);
+        made->setToolTipText(tip);
+        made->Click = [this, click] { (this->*click)(); };
+        return made;
+    };
+    BtnNueva =
+        button(u"BtnNueva"_s, u"New"_s, u"New Selection"_s, {3555, 240, 1170, 420}, &SelectScreen::BtnNueva_Click);
+    BtnTodo = button(u"BtnTodo"_s, u"All"_s, u"All Records"_s, {4875, 240, 1170, 420}, &SelectScreen::BtnTodo_Click);
+    addFilterFrame();
+    ListFiltros = add<ListBox>(u"ListFiltros"_s, {3555, 2580, 6315, 2355});
+    ListFiltros->setType(type::G, false);
+    ListFiltros->setToolTipText(u"Filters"_s);
+    LabOpcionSQL = add<Memo>(u"LabOpcionSQL"_s, {3555, 5085, 6315, 1080});
+    LabOpcionSQL->setType(type::G, false);
+    LabOpcionSQL->setLocked(true);
+    LabOpcionSQL->setToolTipText(u"Filters"_s);
+    addOrderFrame();
+    BtnAceptar = button(u"BtnAceptar"_s, u"Accept"_s, u"Accept Selection"_s, {8700, 7200, 1170, 420},
+                        &SelectScreen::BtnAceptar_Click);
+}
+
+void SelectScreen::addCounters() {
+    auto* frame = add<Frame>({}, {240, 5310, 3000, 2310});
+    const auto label = [&](Role role, const QString& text, TwipsRect rect, int height, bool bold, Qt::Alignment align) {
+        return dress(add<Label>({}, rect, frame), role, text, height, bold, align);
+    };
+    const auto value = [&](const QString& name, const QString& tip, int top) {
+        auto* made = dress(add<Label>(name, {1140, top, 1140, 315}, frame), Role::Value, u"0"_s, type::M, false, Right);
+        made->setToolTipText(tip);
+        return made;
+    };
+    label(Role::Heading, u"RECORDS"_s, {150, 105, 2700, 270}, type::S, true, Left);
+    add<Rule>({}, {150, 435, 2700, 0}, frame);
+    label(Role::Caption, u"Total"_s, {150, 570, 900, 315}, type::G, true, Left);
+    LabNumRegTotal = value(u"LabNumRegTotal"_s, u"Total No. of Records"_s, 570);
+    label(Role::Unit, u"R"_s, {2325, 570, 180, 315}, type::S, false, Left);
+    add<Rule>({}, {150, 1050, 2700, 0}, frame);
+    label(Role::Caption, u"Selection"_s, {150, 1185, 900, 315}, type::G, true, Left);
+    LabNumReg = value(u"LabNumReg"_s, u"No. of Selected Records"_s, 1185);
+    label(Role::Unit, u"R"_s, {2325, 1185, 180, 315}, type::S, false, Left);
+    LabNumRegFiltros = value(u"LabNumRegFiltros"_s, u"No. of Selected Filters"_s, 1635);
+    label(Role::Unit, u"Fl"_s, {2325, 1635, 240, 315}, type::S, false, Left);
+}
+
+void SelectScreen::addFilterFrame() {
+    auto* frame = add<Frame>({}, {3555, 810, 6315, 1620});
+    ComboCampo = add<Combo>(u"ComboCampo"_s, {150, 165, 2925, 345}, frame);
+    ComboCampo->setToolTipText(u"Choose Field"_s);
+    ComboCampo->Click = [this] { ComboCampo_Click(); };
+    ComboCriterio = add<Combo>(u"ComboCriterio"_s, {3240, 165, 2925, 345}, frame);
+    ComboCriterio->setToolTipText(u"Choose Criteria"_s);
+    ComboCriterio->Click = [this] { ComboCriterio_Click(); };
+    TxtValFiltro = add<TextBox>(u"TxtValFiltro"_s, {150, 630, 4695, 345}, frame);
+    TxtValFiltro->setMaxLength(kind_.valueLimit);
+    TxtValFiltro->setText(ValuePlaceholder.toString());
+    TxtValFiltro->setToolTipText(u"Insert Value"_s);
+    TxtValFiltro->Change = [this] { Valor = TxtValFiltro->Text(); };
+    TxtValFiltro->GotFocus = [this] { TxtValFiltro_GotFocus(); };
+    const auto button = [&](const QString& name, const QString& caption, const QString& tip, TwipsRect rect) {
+        auto* made = add<Button>(name, rect, frame);
+        made->setText(caption);
+        made->setToolTipText(tip);
+        return made;
+    };
+    BtnAnadir = button(u"BtnAnadir"_s, u"Add..."_s, u"Add Filter"_s, {4995, 600, 1170, 405});
+    BtnY = button(u"BtnY"_s, u"AND"_s, u"Intersection"_s, {150, 1065, 1170, 405});
+    BtnO = button(u"BtnO"_s, u"OR"_s, u"Union"_s, {1470, 1065, 1170, 405});
+    BtnAnadir->Click = [this] { BtnAnadir_Click(); };
+    BtnY->Click = [this] { join(u" AND "_s, *BtnY); };
+    BtnO->Click = [this] { join(u" OR "_s, *BtnO); };
+    LabNumFiltros = dress(add<Label>(u"LabNumFiltros"_s, {4995, 1110, 810, 315}, frame), Role::Value, u"0"_s, type::M,
+                          false, Right);
+    LabNumFiltros->setToolTipText(u"No. of Selected Filters"_s);
+    dress(add<Label>({}, {5850, 1110, 300, 315}, frame), Role::Unit, u"Fl"_s, type::S, false, Left);
+}
+
+void SelectScreen::addOrderFrame() {
+    auto* frame = add<Frame>({}, {3555, 6315, 6315, 735});
+    dress(add<Label>({}, {150, 195, 735, 345}, frame), Role::Caption, u"Order"_s, type::G, true, Left);
+    ComboCampoOrden = add<Combo>(u"ComboCampoOrden"_s, {990, 195, 2505, 345}, frame);
+    ComboCampoOrden->setToolTipText(u"Choose Field"_s);
+    ComboCampoOrden->Click = [this] { ComboCampoOrden_Click(); };
+    ComboCriterioOrden = add<Combo>(u"ComboCriterioOrden"_s, {3660, 195, 2505, 345}, frame);
+    ComboCriterioOrden->setToolTipText(u"Choose Criteria"_s);
+    ComboCriterioOrden->Click = [this] { ComboCriterioOrden_Click(); };
+}
+
+void SelectScreen::fillLists() {
+    fieldRows_ = fieldRows();
+    orderRows_ = orderRows();
+    for (const FieldRow& row : fieldRows_) ComboCampo->AddItem(row.caption);
+    ComboCampo->AddItem(FieldPlaceholder.toString());
+    for (const CriterionRow& row : Criteria) ComboCriterio->AddItem(row.caption.toString());
+    ComboCriterio->AddItem(CriterionPlaceholder.toString());
+    for (const FieldRow& row : orderRows_) ComboCampoOrden->AddItem(row.caption);
+    ComboCampoOrden->AddItem(FieldPlaceholder.toString());
+    for (const CriterionRow& row : OrderCriteria) ComboCriterioOrden->AddItem(row.caption.toString());
+}
+
+void SelectScreen::paintBehind(QPainter& painter) {
+    paintBackground(painter, Background::Select, scale());
+    paintSpine(painter, scale());
+}
+
+} // namespace zv::selection

@@ -1,0 +1,360 @@
+#include "selection/select_screen.h"
+
+#include "platform/base/text.h"
+#include "selection/select_words.h"
+
+namespace zv::selection {
+
+using namespace Qt::StringLiterals;
+using forms::Combo;
+using store::Value;
+
+namespace {
+
+const QString All = u"Todo"_s;
+const QString NoOrder = OrderCriteria[HistoricalRow].text.toString();
+
+} // namespace
+
+std::vector<FieldRow> SelectScreen::fieldRows() const {
+    std::vector<FieldRow> rows;
+    for (const store::Field& field : kind_.fields)
+        if (!field.listed.isEmpty() && field.value != Value::Picture)
+            rows.push_back({field.listed.toString(), field.column.toString(),
+                            field.value == Value::Year || field.value == Value::Number});
+    return rows;
+}
+
+// Notes can be filtered but not ordered by.
+std::vector<FieldRow> SelectScreen::orderRows() const {
+    std::vector<FieldRow> rows = fieldRows();
+    std::erase_if(rows, [](const FieldRow& row) { return row.column == u"Notas"; });
+    return rows;
+}
+
+void SelectScreen::Form_Load() {
+    fillLists();
+    NumCampos = ComboCampo->ListCount();
+    NumCriterios = ComboCriterio->ListCount();
+    NumCamposOrden = ComboCampoOrden->ListCount();
+    NumCriteriosOrden = ComboCriterioOrden->ListCount();
+    TextoValor = TxtValFiltro->Text();
+    ComboCampo->setListIndex(NumCampos - 1);
+    TextoCampo = ComboCampo->Text();
+    ComboCriterio->setListIndex(NumCriterios - 1);
+    TextoCriterio = ComboCriterio->Text();
+    ComboCampoOrden->setListIndex(NumCamposOrden - 1);
+    TextoCampoOrden = ComboCampoOrden->Text();
+    ValoresInicio();
+}
+
+void SelectScreen::addPlaceholder(Combo& list, int rows, const QString& text) {
+    if (list.ListCount() < rows) list.AddItem(text);
+    list.setListIndex(list.ListCount() - 1);
+}
+
+void SelectScreen::removePlaceholder(Combo& list, int rows) {
+    if (list.ListCount() == rows) list.RemoveItem(rows - 1);
+}
+
+void SelectScreen::ValoresInicio() {
+    BtnNueva->setEnabled(true);
+    BtnTodo->setEnabled(true);
+    for (forms::Button* button : {BtnAnadir, BtnY, BtnO, BtnAceptar}) button->setEnabled(false);
+    ComboCampo->setEnabled(false);
+    addPlaceholder(*ComboCampo, NumCampos, TextoCampo);
+    ComboCriterio->setEnabled(false);
+    addPlaceholder(*ComboCriterio, NumCriterios, TextoCriterio);
+    TxtValFiltro->setEnabled(false);
+    TxtValFiltro->setText(TextoValor);
+    ComboCampoOrden->setEnabled(false);
+    const store::SelectionMemory& selection = memory().MemoSel;
+    if (selection.CampoOrden >= 0) {
+        removePlaceholder(*ComboCampoOrden, NumCamposOrden);
+        ComboCampoOrden->setListIndex(selection.CampoOrden);
+    } else {
+        addPlaceholder(*ComboCampoOrden, NumCamposOrden, TextoCampoOrden);
+    }
+    ComboCriterioOrden->setEnabled(false);
+    ComboCriterioOrden->setListIndex(selection.CriterioOrden >= 0 ? selection.CriterioOrden : HistoricalRow);
+}
+
+void SelectScreen::ComboCampo_Click() {
+    const int row = ComboCampo->ListIndex();
+    if (row >= 0 && row < static_cast<int>(fieldRows_.size())) Campo = fieldRows_[std::size_t(row)].column;
+}
+
+void SelectScreen::ComboCriterio_Click() {
+    const int row = ComboCriterio->ListIndex();
+    if (row >= 0 && row < static_cast<int>(std::size(Criteria))) Criterio = Criteria[row].text.toString();
+}
+
+void SelectScreen::ComboCampoOrden_Click() {
+    const int row = ComboCampoOrden->ListIndex();
+    if (row < 0 || row >= static_cast<int>(orderRows_.size())) return;
+    const QString& column = orderRows_[std::size_t(row)].column;
+    if (!column.isEmpty()) CampoOrden = column;
+}
+
+void SelectScreen::ComboCriterioOrden_Click() {
+    const int row = ComboCriterioOrden->ListIndex();
+    if (row >= 0) CriterioOrden = OrderCriteria[row].text.toString();
+}
+
+void SelectScreen::TxtValFiltro_GotFocus() {
+    TxtValFiltro->setText({});
+    BtnY->setEnabled(false);
+    BtnO->setEnabled(false);
+}
+
+void SelectScreen::enableFilter(bool enabled) {
+    ComboCampo->setEnabled(enabled);
+    ComboCriterio->setEnabled(enabled);
+    TxtValFiltro->setEnabled(enabled);
+}
+
+void SelectScreen::enableOrder(bool enabled) {
+    ComboCampoOrden->setEnabled(enabled);
+    ComboCriterioOrden->setEnabled(enabled);
+}
+
+void SelectScreen::composeNext() {
+    removePlaceholder(*ComboCampo, NumCampos);
+    removePlaceholder(*ComboCriterio, NumCriterios);
+    ComboCampo->setListIndex(0);
+    ComboCriterio->setListIndex(0);
+}
+
+// The ordering last accepted, or the first field in the table's own order.
+void SelectScreen::setOrderLists() {
+    removePlaceholder(*ComboCampoOrden, NumCamposOrden);
+    const store::SelectionMemory& selection = memory().MemoSel;
+    if (selection.CampoOrden >= 0) {
+        ComboCampoOrden->setListIndex(selection.CampoOrden);
+        ComboCriterioOrden->setListIndex(selection.CriterioOrden);
+    } else {
+        ComboCampoOrden->setListIndex(0);
+        ComboCriterioOrden->setListIndex(HistoricalRow);
+    }
+}
+
+void SelectScreen::BtnNueva_Click() {
+    ValoresInicio();
+    OpcionSQL.clear();
+    Operador.clear();
+    EtiquetaOperador.clear();
+    Valor.clear();
+    ValorFiltro.clear();
+    LabNumFiltros->setCaption(u"0"_s);
+    LabOpcionSQL->setText({});
+    TxtValFiltro->setText(TextoValor);
+    ListFiltros->Clear();
+    composeNext();
+    enableFilter(true);
+    BtnAnadir->setEnabled(true);
+}
+
+void SelectScreen::BtnTodo_Click() {
+    ValoresInicio();
+    OpcionSQL = All;
+    ValorFiltro.clear();
+    LabNumFiltros->setCaption(u"0"_s);
+    LabNumRegTotal->setCaption(QString::number(memory().Cont));
+    LabOpcionSQL->setText({});
+    ListFiltros->Clear();
+    TxtValFiltro->setToolTipText({});
+    setOrderLists();
+    enableFilter(false);
+    enableOrder(true);
+    BtnAceptar->setEnabled(true);
+    ComboCampoOrden_Click();
+    ComboCriterioOrden_Click();
+}
+
+QString SelectScreen::term() const {
+    QString value = Valor;
+    const int row = ComboCampo->ListIndex();
+    const bool numeric = row >= 0 && row < static_cast<int>(fieldRows_.size()) && fieldRows_[std::size_t(row)].numeric;
+    if (numeric && !IsNumeric(value)) value = u"-1"_s;
+    const bool like = Criterio == u" LIKE " || Criterio == u" NOT LIKE ";
+    if (like) value = u'*' + value + u'*';
+    if (numeric && !like) return Campo + Criterio + value;
+    return Campo + Criterio + u'\'' + value + u'\'';
+}
+
+void SelectScreen::BtnAnadir_Click() {
+    const QString typed = TxtValFiltro->Text();
+    if (typed == TextoValor || Campo.isEmpty() || Criterio.isEmpty() || Trim(typed).isEmpty()) return;
+    const bool first = OpcionSQL.isEmpty();
+    const QString words = ComboCampo->Text() + u' ' + ComboCriterio->Text() + u" '" + typed + u'\'';
+    ValorFiltro = first ? words : u'(' + ValorFiltro + u' ' + EtiquetaOperador + u' ' + words + u") ";
+    EtiquetaOperador.prepend(u"       "_s);
+    if (!first) ListFiltros->AddItem(EtiquetaOperador);
+    ListFiltros->AddItem(ComboCampo->Text());
+    ListFiltros->AddItem(ComboCriterio->Text());
+    ListFiltros->AddItem(u'\'' + Valor + u'\'');
+    OpcionSQL = first ? term() : u'(' + OpcionSQL + Operador + term() + u')';
+    rememberRows();
+    addPlaceholder(*ComboCampo, NumCampos, TextoCampo);
+    addPlaceholder(*ComboCriterio, NumCriterios, TextoCriterio);
+    setOrderLists();
+    LabNumFiltros->setCaption(CStr(Val(LabNumFiltros->Caption()) + 1));
+    TxtValFiltro->setText(TextoValor);
+    enableFilter(false);
+    enableOrder(true);
+    BtnAceptar->setEnabled(true);
+    BtnAnadir->setEnabled(false);
+    const bool full = Val(LabNumFiltros->Caption()) >= MaxFilters;
+    BtnY->setEnabled(!full);
+    BtnO->setEnabled(!full);
+    if (full) MsgBox(store::MensaMax20Filtros, box::Warning);
+    ComboCampoOrden_Click();
+    ComboCriterioOrden_Click();
+    store::SelectionMemory& selection = memory().MemoSel;
+    selection.NT = 0;
+    selection.OpcionSQL = OpcionSQL;
+    selection.ValorFiltro = ValorFiltro;
+}
+
+void SelectScreen::rememberRows() {
+    QString rows;
+    for (int i = 0; i < ListFiltros->ListCount(); ++i) {
+        ListFiltros->setListIndex(i);
+        rows += ListFiltros->Text() + u'#';
+    }
+    memory().MemoSel.Lista = rows.isEmpty() ? u"#"_s : rows;
+}
+
+void SelectScreen::join(const QString& operador, const forms::Button& button) {
+    composeNext();
+    Operador = operador;
+    EtiquetaOperador = button.text();
+    BtnY->setEnabled(false);
+    BtnO->setEnabled(false);
+    enableFilter(true);
+    BtnAnadir->setEnabled(true);
+    enableOrder(false);
+}
+
+QString SelectScreen::statement() const {
+    QString text = kind_.selectAll();
+    if (OpcionSQL != All) text += u" WHERE " + OpcionSQL;
+    if (CriterioOrden != NoOrder) text += u" ORDER BY " + CampoOrden + CriterioOrden;
+    return text;
+}
+
+void SelectScreen::BtnAceptar_Click() {
+    try {
+        accept();
+    } catch (const RuntimeError& error) {
+        module1().Err = error.number();
+        recover(error.number());
+    }
+}
+
+void SelectScreen::accept() {
+    if (CriterioOrden.isEmpty() || CampoOrden.isEmpty()) return;
+    Data().RecordSource = kind_.selectAll();
+    Data().Refresh();
+    store::KindMemory& of = memory();
+    if (OpcionSQL == All) of.MemoSel.Lista = u"#"_s;
+    OpcionSQL = statement();
+    Data().RecordSource = OpcionSQL;
+    Data().Refresh();
+    jet::Recordset& rows = Data().Recordset();
+    if (rows.RecordCount() != 0) {
+        rows.MoveLast();
+        LabNumReg->setCaption(QString::number(rows.RecordCount()));
+        rows.MoveFirst();
+    } else {
+        LabNumReg->setCaption(u"0"_s);
+    }
+    LabNumRegFiltros->setCaption(LabNumFiltros->Caption());
+    of.ContSel = toLong(Val(LabNumReg->Caption()));
+    of.ContFil = toLong(Val(LabNumFiltros->Caption()));
+    of.Posicion = 1;
+    LabOpcionSQL->setText(ValorFiltro);
+    LabOpcionSQL->setToolTipText(ValorFiltro);
+    of.MemoSel.CampoOrden = static_cast<qint16>(ComboCampoOrden->ListIndex());
+    of.MemoSel.CriterioOrden = static_cast<qint16>(ComboCriterioOrden->ListIndex());
+    clearStatement();
+    of.MemoSel.NT = 2;
+    of.MemoSel.OpcionSQL.clear();
+    of.MemoSel.ValorFiltro = LabOpcionSQL->Text();
+    ValoresInicio();
+}
+
+void SelectScreen::clearStatement() {
+    for (QString* text : {&Campo, &Criterio, &Valor, &CampoOrden, &CriterioOrden, &OpcionSQL, &ValorFiltro})
+        text->clear();
+}
+
+// The channel goes back to all records; the counters still tell of the selection before.
+void SelectScreen::recover(int error) {
+    if (error == 3360)
+        MsgBox(store::MensaError3360, box::Critical);
+    else
+        store().reportError();
+    clearStatement();
+    store::SelectionMemory& selection = memory().MemoSel;
+    selection.Lista = u"#"_s;
+    selection.NT = 2;
+    selection.OpcionSQL.clear();
+    selection.ValorFiltro.clear();
+    Data().RecordSource = kind_.selectAll() + u' ';
+    Data().Refresh();
+    if (Data().Recordset().RecordCount() != 0) Data().Recordset().MoveFirst();
+    ValoresInicio();
+}
+
+void SelectScreen::Carga() {
+    store::KindMemory& of = memory();
+    LabNumRegTotal->setCaption(QString::number(of.Cont));
+    ListFiltros->Clear();
+    if (!of.MemoSel.Lista.startsWith(u'#')) {
+        QString row;
+        for (const QChar c : std::as_const(of.MemoSel.Lista)) {
+            if (c != u'#') {
+                row += c;
+                continue;
+            }
+            ListFiltros->AddItem(row);
+            row.clear();
+        }
+    }
+    if (of.MemoSel.NT != 0) {
+        ValoresInicio();
+        LabOpcionSQL->setText(of.MemoSel.ValorFiltro);
+        LabOpcionSQL->setToolTipText(of.MemoSel.ValorFiltro);
+        LabNumReg->setCaption(QString::number(of.ContSel));
+        LabNumFiltros->setCaption(QString::number(of.ContFil));
+        LabNumRegFiltros->setCaption(LabNumFiltros->Caption());
+    } else if (of.MemoSel.Lista.size() == 1) {
+        of.MemoSel.NT = 2;
+        Carga();
+    } else {
+        takeUpFilters();
+    }
+}
+
+void SelectScreen::takeUpFilters() {
+    const store::KindMemory& of = memory();
+    OpcionSQL = of.MemoSel.OpcionSQL;
+    ValorFiltro = of.MemoSel.ValorFiltro;
+    TxtValFiltro->setText(TextoValor);
+    enableFilter(false);
+    enableOrder(true);
+    BtnAceptar->setEnabled(true);
+    BtnAnadir->setEnabled(false);
+    setOrderLists();
+    ComboCampoOrden_Click();
+    ComboCriterioOrden_Click();
+    LabNumFiltros->setCaption(CStr((ListFiltros->ListCount() + 1) / 4.0));
+    LabNumRegFiltros->setCaption(QString::number(of.ContFil));
+    LabNumReg->setCaption(QString::number(of.ContSel));
+    const bool full = Val(LabNumFiltros->Caption()) >= MaxFilters;
+    BtnY->setEnabled(!full);
+    BtnO->setEnabled(!full);
+}
+
+} // namespace zv::selection

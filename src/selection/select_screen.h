@@ -1,0 +1,88 @@
+// The Select screen of a kind: up to 20 filters joined by AND and OR and an ordering become one statement for the
+// kind's channel. What it composes lies in the working memory, so that a later visit takes it up.
+#pragma once
+
+#include "platform/forms/controls.h"
+#include "platform/forms/text_box.h"
+#include "shell/contract/screen.h"
+#include "store/messages.h"
+
+namespace zv::selection {
+
+/// A row of the list of fields: its words, its column, and whether its value is compared as a number.
+struct FieldRow {
+    QString caption;
+    QString column;
+    bool numeric = false;
+};
+
+class SelectScreen : public shell::Screen {
+  public:
+    SelectScreen(shell::Context& context, QWidget* parent, const QString& name, const store::KindInfo& kind);
+
+    /// Rebuilds the screen from the working memory.
+    void Carga() override;
+    /// Sets all controls to the idle state.
+    void ValoresInicio();
+
+  protected:
+    void Form_Load() override;
+    void paintBehind(QPainter& painter) override;
+
+    /// The fields on offer for a filter and for the ordering, without their placeholder rows.
+    virtual std::vector<FieldRow> fieldRows() const;
+    virtual std::vector<FieldRow> orderRows() const;
+    /// The term of one filter, as the statement takes it.
+    virtual QString term() const;
+
+    const store::KindInfo& kind() const { return kind_; }
+    store::KindMemory& memory() { return store().memory.of(kind_.kind); }
+    jet::DataControl& Data() { return store().Data(kind_.kind); }
+
+    QString OpcionSQL, Campo, Criterio, Valor, CampoOrden, CriterioOrden;
+    QString Operador, EtiquetaOperador, ValorFiltro;
+    forms::Combo *ComboCampo, *ComboCriterio, *ComboCampoOrden, *ComboCriterioOrden;
+    forms::TextBox* TxtValFiltro;
+
+  private:
+    void addCounters();
+    void addFilterFrame();
+    void addOrderFrame();
+    void fillLists();
+    void ComboCampo_Click();
+    void ComboCriterio_Click();
+    void ComboCampoOrden_Click();
+    void ComboCriterioOrden_Click();
+    void TxtValFiltro_GotFocus();
+    void BtnNueva_Click();
+    void BtnTodo_Click();
+    void BtnAnadir_Click();
+    void join(const QString& operador, const forms::Button& button);
+    void BtnAceptar_Click();
+    void accept();
+    void recover(int error);
+    void takeUpFilters();
+
+    /// Whether both lists of the filter stand on choices.
+    void composeNext();
+    void rememberRows();
+    void setOrderLists();
+    void enableFilter(bool enabled);
+    void enableOrder(bool enabled);
+    void clearStatement();
+    QString statement() const;
+    static void addPlaceholder(forms::Combo& list, int rows, const QString& text);
+    static void removePlaceholder(forms::Combo& list, int rows);
+
+    const store::KindInfo& kind_;
+    std::vector<FieldRow> fieldRows_, orderRows_;
+    int NumCampos = 0, NumCriterios = 0, NumCamposOrden = 0, NumCriteriosOrden = 0;
+    QString TextoValor, TextoCampo, TextoCriterio, TextoCampoOrden;
+
+    forms::Button *BtnNueva, *BtnTodo, *BtnAnadir, *BtnY, *BtnO, *BtnAceptar;
+    forms::ListBox* ListFiltros;
+    forms::Memo* LabOpcionSQL;
+    forms::Label *LabBaseDatos, *LabNumRegTotal, *LabNumFiltros, *LabNumReg, *LabNumRegFiltros;
+};
+
+} // namespace zv::selection

@@ -1,0 +1,109 @@
+#include "store/working_memory.h"
+
+#include <QStringList>
+
+namespace zv::store {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The recording's list offers fields of seven tables.
+constexpr int RecordingListItems = 34;
+
+constexpr QStringView RecordingClauses[] = {u"Compositor", u"Obra",    u"Orquesta", u"Director",
+                                            u"Interprete", u"Soporte", u"Grabacion"};
+
+class Lines {
+  public:
+    void number(const QString& name, qint32 value) { lines_ += name + u" = " + QString::number(value); }
+    void flag(const QString& name, bool value) { lines_ += name + (value ? u" = True" : u" = False"); }
+    void text(const QString& name, const QString& value) { lines_ += name + u" = \"" + value + u'"'; }
+    QString joined() const { return lines_.join(u'\n') + u'\n'; }
+
+  private:
+    QStringList lines_;
+};
+
+void dumpCounters(Lines& lines, const KindInfo& kind, const KindMemory& memory) {
+    const QString table = kind.table.toString();
+    lines.number(u"Cont" + table, memory.Cont);
+    lines.number(u"Posicion" + table, memory.Posicion);
+    lines.number(u"ContSel" + table, memory.ContSel);
+    lines.number(u"ContEli" + table, memory.ContEli);
+    lines.number(u"ContNew" + table, memory.ContNew);
+    lines.number(u"ContFil" + table, memory.ContFil);
+}
+
+void dumpSelection(Lines& lines, const KindInfo& kind, const SelectionMemory& memory) {
+    const QString prefix = u"MemoSel" + kind.shortName.toString();
+    lines.number(prefix + u"NT", memory.NT);
+    if (kind.kind == Kind::Grabacion)
+        for (std::size_t i = 0; i < memory.OpcionesGrabacion.size(); ++i)
+            lines.text(prefix + u"OpcionSQL" + RecordingClauses[i].toString(), memory.OpcionesGrabacion[i]);
+    else
+        lines.text(prefix + u"OpcionSQL", memory.OpcionSQL);
+    lines.text(prefix + u"ValorFiltro", memory.ValorFiltro);
+    lines.text(prefix + u"Lista", memory.Lista);
+    lines.number(prefix + u"CampoOrden", memory.CampoOrden);
+    lines.number(prefix + u"CriterioOrden", memory.CriterioOrden);
+}
+
+void dumpList(Lines& lines, const KindInfo& kind, const ListMemory& memory) {
+    const QString prefix = u"MemoLis" + kind.shortName.toString();
+    lines.number(prefix + u"Posicion", memory.Posicion);
+    lines.number(prefix + u"Posicion2", memory.Posicion2);
+    for (std::size_t i = 0; i < memory.Campo.size(); ++i)
+        lines.flag(kind.listTicks + u'(' + QString::number(i) + u')', memory.Campo[i]);
+    // Records II declares one flag per field as well. No screen ever sets them.
+    if (kind.form == 2)
+        for (const Field& field : kind.fields)
+            if (field.value != Value::Key) lines.flag(prefix + u"Campo" + field.column.toString(), false);
+}
+
+} // namespace
+
+int listItemCount(const KindInfo& kind) {
+    if (kind.kind == Kind::Grabacion) return RecordingListItems;
+    return static_cast<int>(
+        std::count_if(kind.fields.begin(), kind.fields.end(), [](const Field& f) { return !f.listed.isEmpty(); }));
+}
+
+WorkingMemory::WorkingMemory() {
+    for (const KindInfo& kind : kinds()) start(kind.kind);
+}
+
+void WorkingMemory::start(Kind kind) {
+    KindMemory& memory = of(kind);
+    memory = KindMemory{};
+    memory.Memo.resize(info(kind).fields.size());
+    memory.MemoLis.Campo.resize(static_cast<std::size_t>(listItemCount(info(kind))));
+    if (kind == Kind::Obra) Obra = {};
+    if (kind == Kind::Orquesta) Orquesta = {};
+    if (kind == Kind::Grabacion) Grabacion = {};
+}
+
+QString WorkingMemory::dump() const {
+    Lines lines;
+    for (const KindInfo& kind : kinds()) {
+        const KindMemory& memory = of(kind.kind);
+        dumpCounters(lines, kind, memory);
+        for (std::size_t i = 0; i < kind.fields.size(); ++i)
+            if (!kind.fields[i].memo.isEmpty()) lines.text(kind.fields[i].memo.toString(), memory.Memo[i]);
+        if (kind.kind == Kind::Obra) {
+            lines.flag(u"MemoAnaObraAmpRed"_s, Obra.AnaAmpRed);
+            lines.flag(u"MemoMosObraAmpRed"_s, Obra.MosAmpRed);
+        }
+        if (kind.kind == Kind::Orquesta) lines.number(u"MemoOrqSelect"_s, Orquesta.Select);
+        if (kind.kind == Kind::Grabacion) {
+            lines.text(u"MemoAnaGraNotas"_s, Grabacion.AnaNotas);
+            lines.text(u"MemoMosGraNotas"_s, Grabacion.MosNotas);
+        }
+        lines.flag(u"Memo" + kind.shortName.toString() + u"RedAmp", memory.RedAmp);
+        dumpSelection(lines, kind, memory.MemoSel);
+        dumpList(lines, kind, memory.MemoLis);
+    }
+    return lines.joined();
+}
+
+} // namespace zv::store
