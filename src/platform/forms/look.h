@@ -46,6 +46,7 @@ enum class Role {
     None,
     TextBox,     // QLineEdit, QPlainTextEdit
     Value,       // label that shows a number or a text in a box
+    Detail,      // value label of the recording: weaker border
     Caption,     // label beside a box: navy, bold
     Heading,     // navy, bold
     Unit,        // soft
@@ -75,5 +76,17 @@ inline void setInForce(QWidget* widget, bool inForce) {
     widget->update();
 }
 inline bool inForce(const QWidget* widget) { return widget && widget->property("zvInForce").toBool(); }
+
+/// The narrow bar without end buttons: set on a scroll bar, or on the list, grid or memo that holds it.
+inline void setSlim(QWidget* widget, bool slim = true) { widget->setProperty("zvSlim", slim); }
+
+/// A read-only memo that looks like an editable one, since it is never anything else.
+inline void setOpenLook(QWidget* widget, bool open = true) { widget->setProperty("zvOpenLook", open); }
+
+/// Height of a list's rows in twips (255 unless told).
+inline void setRowHeight(QWidget* list, int twips) { list->setProperty("zvRowHeight", twips); }
+
+/// Cells of a grid may hold two lines, `pitch` twips from line to line, though their rows are low.
+inline void setTwoLines(QWidget* grid, int pitch) { grid->setProperty("zvPitch", pitch); }
 
 } // namespace zv::forms
