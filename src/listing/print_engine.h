@@ -25,9 +25,9 @@ using PrintFailure = std::function<void(int number)>;
 QString numeroPagina(int Pagina);
 
 /// Prints a text word-wrapped from the pen, beside the picture down to PosicionYImagen and then from the left margin.
-/// AnchoImagen is the width of that picture. The pen ends behind the last line, or at the left margin below the picture
-/// if that reaches lower. An error inside is told to `failure` and ends the text, no more: 6 if the room to the right
-/// or the lines to the bottom exceed 16 bits, 482 from the printer.
+/// AnchoImagen is the width of that picture. The pen ends on the height of the last line, at the place where a line
+/// starts, or at the left margin below the picture if that reaches lower. An error inside is told to `failure` and ends
+/// the text, no more: 6 if the room to the right or the lines to the bottom exceed 16 bits, 482 from the printer.
 void ImprimirParrafo(printing::Printer& printer, const QString& Texto, PrintState& state, qint16 AnchoImagen,
                      const PrintFailure& failure);
 

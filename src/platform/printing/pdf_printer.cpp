@@ -2,6 +2,7 @@
 #include "platform/base/runtime_error.h"
 #include "platform/printing/qt_printer.h"
 
+#include <QFileInfo>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -29,7 +30,10 @@ class PdfPrinter : public QtPrinter {
 
   protected:
     void beginDocument() override {
-        if (!pdf_->file.isOpen() && !pdf_->file.open(QIODevice::WriteOnly)) throw RuntimeError(PrinterError);
+        // Only a plain file can be replaced: a device or a pipe of that name would be lost.
+        const QFileInfo target(pdf_->file.fileName());
+        if (target.exists() && !target.isFile()) throw RuntimeError(PrinterError);
+        if (!pdf_->file.open(QIODevice::WriteOnly)) throw RuntimeError(PrinterError);
         QtPrinter::beginDocument();
     }
     void beginPage() override {
@@ -38,6 +42,8 @@ class PdfPrinter : public QtPrinter {
     }
     void finishDocument() override {
         QtPrinter::finishDocument();
+        // What is still buffered has to be written before the commit, which doesn't look whether that succeeded.
+        if (!pdf_->file.flush()) pdf_->file.cancelWriting();
         if (!pdf_->file.commit()) throw RuntimeError(PrinterError);
     }
 

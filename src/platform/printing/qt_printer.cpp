@@ -18,6 +18,9 @@ namespace {
 constexpr double TwipsPerPoint = 20, TwipsPerInch = 1440;
 /// Pictures finer than this are made smaller: more is not seen on paper and only swells the document.
 constexpr double PictureDotsPerInch = 300;
+/// Height of a line at least, in sizes of the font: that of Comic Sans MS, so that a list breaks into the same pages
+/// with the family that stands in for it, and other scripts have room.
+constexpr double LineSpacing = 1.39;
 
 /// The family itself, or the one that stands in for it where it is missing.
 QString availableFamily(const QString& family) {
@@ -66,17 +69,19 @@ void QtPrinter::fontChanged() {
     if (painter_.isActive()) painter_.setFont(font_);
 }
 
-double QtPrinter::lineWidth(const QString& line) const { return metrics_.horizontalAdvance(line); }
+double QtPrinter::lineHeight() const {
+    return std::ceil(
+        std::max(metrics_.ascent() + metrics_.descent() + metrics_.leading(), LineSpacing * font_.pixelSize()));
+}
 
 double QtPrinter::TextWidth(const QString& text) const {
     double width = 0;
-    for (const QString& line : linesOf(text)) width = std::max(width, lineWidth(line));
+    for (const QString& line : linesOf(text)) width = std::max(width, metrics_.horizontalAdvance(line));
     return width;
 }
 
 double QtPrinter::TextHeight(const QString& text) const {
-    const double line = std::ceil(metrics_.ascent() + metrics_.descent() + metrics_.leading());
-    return line * static_cast<double>(linesOf(text).size());
+    return lineHeight() * static_cast<double>(linesOf(text).size());
 }
 
 int QtPrinter::charactersUntilWidth(const QString& text, int from, double limit) const {
@@ -101,7 +106,8 @@ void QtPrinter::beginPage() {
 }
 
 void QtPrinter::drawText(double x, double y, const QString& line) {
-    painter_.drawText(QPointF(x, y + metrics_.ascent()), line);
+    const double above = (lineHeight() - metrics_.ascent() - metrics_.descent()) / 2;
+    painter_.drawText(QPointF(x, y + above + metrics_.ascent()), line);
 }
 
 void QtPrinter::drawPicture(const QImage& picture, double x, double y, double width, double height) {

@@ -43,7 +43,7 @@ class QtPrinter : public PenPrinter {
 
   private:
     void fontChanged();
-    double lineWidth(const QString& line) const;
+    double lineHeight() const;
     void checkDevice() const;
 
     std::shared_ptr<QPagedPaintDevice> device_;

@@ -25,27 +25,38 @@ int RecordingPrinter::charactersUntilWidth(const QString& text, int from, double
     return fillWidth(text, from, limit, [this](const QString& piece) { return TextWidth(piece); });
 }
 
+void RecordingPrinter::checkDevice() const {
+    if (log_->failing) throw RuntimeError(PrinterError);
+}
+
 void RecordingPrinter::beginDocument() {
-    page_ = 0;
+    log_->page = 0;
     beginPage();
 }
 
 void RecordingPrinter::beginPage() {
-    if (failing_) throw RuntimeError(PrinterError);
-    operations_ += u"page %1"_s.arg(++page_);
+    checkDevice();
+    log_->operations += u"page %1"_s.arg(++log_->page);
 }
 
 void RecordingPrinter::drawText(double x, double y, const QString& line) {
-    if (failing_) throw RuntimeError(PrinterError);
-    operations_ += u"text %1 %2 %3 %4%5 '"_s.arg(x).arg(y).arg(size_).arg(bold_ ? u"bold "_s : QString()).arg(color_) +
-                   line + u'\'';
+    checkDevice();
+    log_->operations +=
+        u"text %1 %2 %3 %4%5 '"_s.arg(x).arg(y).arg(size_).arg(bold_ ? u"bold "_s : QString()).arg(color_) + line +
+        u'\'';
 }
 
 void RecordingPrinter::drawPicture(const QImage&, double x, double y, double w, double h) {
-    if (failing_) throw RuntimeError(PrinterError);
-    operations_ += u"picture %1 %2 %3 %4"_s.arg(x).arg(y).arg(w).arg(h);
+    checkDevice();
+    log_->operations += u"picture %1 %2 %3 %4"_s.arg(x).arg(y).arg(w).arg(h);
 }
 
-void RecordingPrinter::finishDocument() { operations_ += u"end"_s; }
+void RecordingPrinter::finishDocument() { log_->operations += u"end"_s; }
+
+std::unique_ptr<Printer> RecordingPrinterDialogs::ShowPrinter() {
+    ++shown;
+    if (error != 0) throw RuntimeError(error);
+    return std::make_unique<RecordingPrinter>(printer);
+}
 
 } // namespace zv::printing

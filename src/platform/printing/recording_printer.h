@@ -8,7 +8,7 @@
 
 namespace zv::printing {
 
-/// Every character has the width set for it, every line the same height.
+/// Every character has the width set for it, every line the same height. Copies write into the same record.
 class RecordingPrinter : public PenPrinter {
   public:
     double characterWidth = 100;
@@ -17,13 +17,13 @@ class RecordingPrinter : public PenPrinter {
     double scaleWidth = 11500, scaleHeight = 16400, width = 11900;
 
     /// "page 1", "text x y size [bold] colour 'words'", "picture x y w h", "end".
-    const QStringList& operations() const { return operations_; }
+    const QStringList& operations() const { return log_->operations; }
     /// Number of the page being printed, 0 before the first mark.
-    int page() const { return page_; }
+    int page() const { return log_->page; }
     /// From now on the device fails with error 482, or works again.
-    void setFailing(bool failing) { failing_ = failing; }
+    void setFailing(bool failing) { log_->failing = failing; }
 
-    void setFontName(const QString& family) override { family_ = family; }
+    void setFontName(const QString&) override {}
     void setFontSize(double points) override { size_ = points; }
     void setFontBold(bool bold) override { bold_ = bold; }
     void setForeColor(int bgr) override { color_ = bgr; }
@@ -42,13 +42,26 @@ class RecordingPrinter : public PenPrinter {
     void finishDocument() override;
 
   private:
-    QStringList operations_;
-    QString family_;
+    struct Log {
+        QStringList operations;
+        int page = 0;
+        bool failing = false;
+    };
+    void checkDevice() const;
+
+    std::shared_ptr<Log> log_ = std::make_shared<Log>();
     double size_ = 8;
     bool bold_ = false;
     int color_ = 0;
-    int page_ = 0;
-    bool failing_ = false;
+};
+
+/// Gives copies of one recording printer, which all write into its record, or an error.
+class RecordingPrinterDialogs : public PrinterDialogs {
+  public:
+    RecordingPrinter printer;
+    int shown = 0; ///< how often the dialog was asked for
+    int error = 0; ///< run-time error instead of a printer, if not 0
+    std::unique_ptr<Printer> ShowPrinter() override;
 };
 
 } // namespace zv::printing
