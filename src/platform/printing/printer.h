@@ -7,6 +7,10 @@
 
 namespace zv::printing {
 
+/// Numbers of the run-time errors of printing: the device failed, the dialog was left by Cancel.
+inline constexpr int PrinterError = 482;
+inline constexpr int PrinterCancel = 32755;
+
 class Printer {
   public:
     virtual ~Printer() = default;
@@ -27,12 +31,15 @@ class Printer {
     virtual double TextHeight(const QString& text) const = 0;
 
     /// How many characters of the text it takes, from the given position and at least one, until the width of what was
-    /// taken is `limit` or more, or the text ends. The answer is that of measuring the whole piece after each character.
+    /// taken is `limit` or more, or the text ends. The answer is that of measuring the whole piece after each
+    /// character.
     virtual int charactersUntilWidth(const QString& text, int from, double limit) const = 0;
 
-    /// Prints at the pen; the pen stays behind the text. Text that starts below the printable height begins a page.
+    /// Prints at the pen; the pen stays behind the text, and what crosses the right edge is clipped. A line that has no
+    /// room left above the printable height begins a page: the pen keeps its x and goes to the top.
     virtual void Print(const QString& text) = 0;
-    /// Moves the pen to the start of the next line: x 0, y down by one height of a line.
+    /// Moves the pen to the start of the next line: x 0, y down by one height of a line, or to the top of the next page
+    /// when a line has no room there.
     virtual void PrintLine() = 0;
     void PrintLine(const QString& text) {
         Print(text);
