@@ -2,7 +2,6 @@
 #include "platform/forms/decoration.h"
 #include "platform/forms/picture.h"
 #include "selection/select_screen.h"
-#include "selection/select_words.h"
 
 namespace zv::selection {
 
@@ -88,7 +87,7 @@ void SelectScreen::addFilterFrame() {
     ComboCriterio->Click = [this] { ComboCriterio_Click(); };
     TxtValFiltro = add<TextBox>(u"TxtValFiltro"_s, {150, 630, 4695, 345}, frame);
     TxtValFiltro->setMaxLength(kind_.valueLimit);
-    TxtValFiltro->setText(ValuePlaceholder.toString());
+    TxtValFiltro->setText(store::ValuePlaceholder.toString());
     TxtValFiltro->setToolTipText(u"Insert Value"_s);
     TxtValFiltro->Change = [this] { Valor = TxtValFiltro->Text(); };
     TxtValFiltro->GotFocus = [this] { TxtValFiltro_GotFocus(); };
@@ -122,15 +121,15 @@ void SelectScreen::addOrderFrame() {
 }
 
 void SelectScreen::fillLists() {
-    fieldRows_ = fieldRows();
-    orderRows_ = orderRows();
-    for (const FieldRow& row : fieldRows_) ComboCampo->AddItem(row.caption);
-    ComboCampo->AddItem(FieldPlaceholder.toString());
-    for (const CriterionRow& row : Criteria) ComboCriterio->AddItem(row.caption.toString());
-    ComboCriterio->AddItem(CriterionPlaceholder.toString());
-    for (const FieldRow& row : orderRows_) ComboCampoOrden->AddItem(row.caption);
-    ComboCampoOrden->AddItem(FieldPlaceholder.toString());
-    for (const CriterionRow& row : OrderCriteria) ComboCriterioOrden->AddItem(row.caption.toString());
+    fieldRows_ = store::fieldRows(kind_);
+    orderRows_ = store::orderRows(kind_);
+    for (const store::FieldRow& row : fieldRows_) ComboCampo->AddItem(row.caption);
+    ComboCampo->AddItem(store::FieldPlaceholder.toString());
+    for (const store::CriterionRow& row : store::Criteria) ComboCriterio->AddItem(row.caption.toString());
+    ComboCriterio->AddItem(store::CriterionPlaceholder.toString());
+    for (const store::FieldRow& row : orderRows_) ComboCampoOrden->AddItem(row.caption);
+    ComboCampoOrden->AddItem(store::FieldPlaceholder.toString());
+    for (const store::CriterionRow& row : store::OrderCriteria) ComboCriterioOrden->AddItem(row.caption.toString());
 }
 
 void SelectScreen::paintBehind(QPainter& painter) {

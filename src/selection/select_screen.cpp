@@ -1,36 +1,18 @@
 #include "selection/select_screen.h"
 
 #include "platform/base/text.h"
-#include "selection/select_words.h"
 
 namespace zv::selection {
 
 using namespace Qt::StringLiterals;
 using forms::Combo;
-using store::Value;
 
 namespace {
 
 const QString All = u"Todo"_s;
-const QString NoOrder = OrderCriteria[HistoricalRow].text.toString();
+const QString NoOrder = store::OrderCriteria[store::HistoricalRow].text.toString();
 
 } // namespace
-
-std::vector<FieldRow> SelectScreen::fieldRows() const {
-    std::vector<FieldRow> rows;
-    for (const store::Field& field : kind_.fields)
-        if (!field.listed.isEmpty() && field.value != Value::Picture)
-            rows.push_back({field.listed.toString(), field.column.toString(),
-                            field.value == Value::Year || field.value == Value::Number});
-    return rows;
-}
-
-// Notes can be filtered but not ordered by.
-std::vector<FieldRow> SelectScreen::orderRows() const {
-    std::vector<FieldRow> rows = fieldRows();
-    std::erase_if(rows, [](const FieldRow& row) { return row.column == u"Notas"; });
-    return rows;
-}
 
 void SelectScreen::Form_Load() {
     fillLists();
@@ -76,7 +58,7 @@ void SelectScreen::ValoresInicio() {
         addPlaceholder(*ComboCampoOrden, NumCamposOrden, TextoCampoOrden);
     }
     ComboCriterioOrden->setEnabled(false);
-    ComboCriterioOrden->setListIndex(selection.CriterioOrden >= 0 ? selection.CriterioOrden : HistoricalRow);
+    ComboCriterioOrden->setListIndex(selection.CriterioOrden >= 0 ? selection.CriterioOrden : store::HistoricalRow);
 }
 
 void SelectScreen::ComboCampo_Click() {
@@ -86,19 +68,19 @@ void SelectScreen::ComboCampo_Click() {
 
 void SelectScreen::ComboCriterio_Click() {
     const int row = ComboCriterio->ListIndex();
-    if (row >= 0 && row < static_cast<int>(std::size(Criteria))) Criterio = Criteria[row].text.toString();
+    if (row >= 0 && row < static_cast<int>(std::size(store::Criteria))) Criterio = store::Criteria[row].text.toString();
 }
 
 void SelectScreen::ComboCampoOrden_Click() {
     const int row = ComboCampoOrden->ListIndex();
     if (row < 0 || row >= static_cast<int>(orderRows_.size())) return;
-    const QString& column = orderRows_[std::size_t(row)].column;
+    const QString column = orderColumn(row);
     if (!column.isEmpty()) CampoOrden = column;
 }
 
 void SelectScreen::ComboCriterioOrden_Click() {
     const int row = ComboCriterioOrden->ListIndex();
-    if (row >= 0) CriterioOrden = OrderCriteria[row].text.toString();
+    if (row >= 0) CriterioOrden = store::OrderCriteria[row].text.toString();
 }
 
 void SelectScreen::TxtValFiltro_GotFocus() {
@@ -134,7 +116,7 @@ void SelectScreen::setOrderLists() {
         ComboCriterioOrden->setListIndex(selection.CriterioOrden);
     } else {
         ComboCampoOrden->setListIndex(0);
-        ComboCriterioOrden->setListIndex(HistoricalRow);
+        ComboCriterioOrden->setListIndex(store::HistoricalRow);
     }
 }
 
@@ -204,7 +186,7 @@ void SelectScreen::BtnAnadir_Click() {
     enableOrder(true);
     BtnAceptar->setEnabled(true);
     BtnAnadir->setEnabled(false);
-    const bool full = Val(LabNumFiltros->Caption()) >= MaxFilters;
+    const bool full = Val(LabNumFiltros->Caption()) >= store::MaxFilters;
     BtnY->setEnabled(!full);
     BtnO->setEnabled(!full);
     if (full) MsgBox(store::MensaMax20Filtros, box::Warning);
@@ -352,7 +334,7 @@ void SelectScreen::takeUpFilters() {
     LabNumFiltros->setCaption(CStr((ListFiltros->ListCount() + 1) / 4.0));
     LabNumRegFiltros->setCaption(QString::number(of.ContFil));
     LabNumReg->setCaption(QString::number(of.ContSel));
-    const bool full = Val(LabNumFiltros->Caption()) >= MaxFilters;
+    const bool full = Val(LabNumFiltros->Caption()) >= store::MaxFilters;
     BtnY->setEnabled(!full);
     BtnO->setEnabled(!full);
 }

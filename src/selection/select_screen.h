@@ -6,15 +6,9 @@
 #include "platform/forms/text_box.h"
 #include "shell/contract/screen.h"
 #include "store/messages.h"
+#include "store/select_rows.h"
 
 namespace zv::selection {
-
-/// A row of the list of fields: its words, its column, and whether its value is compared as a number.
-struct FieldRow {
-    QString caption;
-    QString column;
-    bool numeric = false;
-};
 
 class SelectScreen : public shell::Screen {
   public:
@@ -29,9 +23,8 @@ class SelectScreen : public shell::Screen {
     void Form_Load() override;
     void paintBehind(QPainter& painter) override;
 
-    /// The fields on offer for a filter and for the ordering, without their placeholder rows.
-    virtual std::vector<FieldRow> fieldRows() const;
-    virtual std::vector<FieldRow> orderRows() const;
+    /// Column that a row of the ordering list orders by; empty leaves the column before.
+    virtual QString orderColumn(int row) const { return orderRows_[std::size_t(row)].column; }
     /// The term of one filter, as the statement takes it.
     virtual QString term() const;
 
@@ -75,7 +68,7 @@ class SelectScreen : public shell::Screen {
     static void removePlaceholder(forms::Combo& list, int rows);
 
     const store::KindInfo& kind_;
-    std::vector<FieldRow> fieldRows_, orderRows_;
+    std::vector<store::FieldRow> fieldRows_, orderRows_;
     int NumCampos = 0, NumCriterios = 0, NumCamposOrden = 0, NumCriteriosOrden = 0;
     QString TextoValor, TextoCampo, TextoCriterio, TextoCampoOrden;
 

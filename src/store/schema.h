@@ -53,6 +53,13 @@ struct Field {
     bool heading = false;    ///< part of the name under the picture
 };
 
+/// How the List screen of a kind works its page out when it is loaded.
+struct ListLoad {
+    int margin = 300;         ///< twips that the height of the grid loses to the heading
+    bool movesToLast = false; ///< the channel goes to its last record first
+    bool clampsBelow = false; ///< a page that the zoom asks for is held above the first, too
+};
+
 struct KindInfo {
     Kind kind;
     QStringView table;
@@ -69,8 +76,10 @@ struct KindInfo {
     bool identifierTip = true;   ///< the identifier boxes of the Add screen carry the tip "Identifier"
     QStringView saveTail = u" "; ///< what ends the query of the Add screen's save
     QStringView listTicks;       ///< name of the array of ticks
+    ListLoad listLoad = {};
     QStringView drawing;         ///< picture that stands for the lack of one
     std::span<const Field> fields;
+    std::span<const QStringView> nameRows = {}; ///< captions in Select that stand for the name, where it has several
 
     /// Position of a column in `fields`, -1 for none.
     int indexOf(QStringView column) const;

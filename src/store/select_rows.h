@@ -1,9 +1,23 @@
-// The fixed rows of the lists of every Select screen.
+// Rows of the lists of the Select screens: the fields of a kind, the criteria, the orderings. The printed list tells the
+// order in the same words.
 #pragma once
 
-#include <QStringView>
+#include "store/schema.h"
+#include <QString>
 
-namespace zv::selection {
+namespace zv::store {
+
+/// A row of the list of fields: its words, its column, and whether its value is compared as a number.
+struct FieldRow {
+    QString caption;
+    QString column;
+    bool numeric = false;
+};
+
+/// The fields on offer for a filter, without the placeholder row.
+std::vector<FieldRow> fieldRows(const KindInfo& kind);
+/// The fields on offer for the ordering, without the placeholder row: notes can be filtered but not ordered by.
+std::vector<FieldRow> orderRows(const KindInfo& kind);
 
 struct CriterionRow {
     QStringView caption;
@@ -28,4 +42,4 @@ inline constexpr QStringView ValuePlaceholder = u"          FILTER Value";
 
 inline constexpr int MaxFilters = 20;
 
-} // namespace zv::selection
+} // namespace zv::store
