@@ -57,7 +57,7 @@ void paintNotes(QPainter& painter, const Staff& staff, int centre, const QColor&
     for (std::size_t i = 0; i < count; ++i) {
         const int height = tune[i % tune.size()];
         const double x = scale.px(staff.Left + first + step * static_cast<double>(i));
-        paintNote(painter, {x, centre - height * gap / 2 + 0.5}, gap, height >= 0, colour);
+        paintNote(painter, {x, centre - height * gap / 2 - 0.5}, gap, height >= 0, colour);
     }
 }
 
@@ -71,7 +71,7 @@ void paintClef(QPainter& painter, double x, double centre, double gap, const QCo
     painter.translate(x, centre - 140 * unit);
     painter.scale(unit, unit);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(colour, 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(colour, std::max(6.0, 1.3 / unit), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(path);
     painter.restore();
 }
@@ -79,8 +79,8 @@ void paintClef(QPainter& painter, double x, double centre, double gap, const QCo
 void paintStaff(QPainter& painter, const Staff& staff, const QColor& colour, const Scale& scale) {
     const int left = scale.px(staff.Left), width = scale.px(staff.Left + staff.Width) - left;
     const int centre = scale.px(staff.Centre), gap = scale.px(staff.Gap), line = scale.hairline();
-    for (int i = -2; i <= 2; ++i) painter.fillRect(QRect(left, centre + i * gap - line / 2, width, line), colour);
-    if (staff.clef) paintClef(painter, left + 0.75 * gap, centre + 0.5, gap, colour);
+    for (int i = -2; i <= 2; ++i) painter.fillRect(QRect(left, centre + i * gap - (line + 1) / 2, width, line), colour);
+    if (staff.clef) paintClef(painter, left + 0.6 * gap, centre - 0.5, gap, colour);
     if (staff.notes) paintNotes(painter, staff, centre, colour, scale);
 }
 
@@ -112,7 +112,7 @@ void paintSpine(QPainter& painter, const Scale& scale) {
         painter.fillRect(QRect(x, middle + half, line, foot - middle - half), Spine);
     }
     painter.save();
-    painter.translate(scale.px(Left + Pitch * (Lines - 1) / 2.0) + line / 2.0, middle);
+    painter.translate(scale.px(Left + Pitch * (Lines - 1) / 2.0) + line, middle);
     painter.rotate(-90);
     painter.setFont(font);
     painter.setPen(colour::Navy);
@@ -129,7 +129,7 @@ void paintBackground(QPainter& painter, Background background, const Scale& scal
                    scale);
         paintStaff(painter, {Left, Width, lower, Gap, false, true, {3, 1, -1, 0, -2, -4}, 360, 420}, colour::Motif,
                    scale);
-        const int top = scale.px(upper) - 2 * scale.px(Gap), foot = scale.px(lower) + 2 * scale.px(Gap);
+        const int top = scale.px(upper) - 2 * scale.px(Gap) - 1, foot = scale.px(lower) + 2 * scale.px(Gap);
         painter.fillRect(QRect(scale.px(Left), top, scale.hairline(), foot - top), colour::Motif);
         break;
     }

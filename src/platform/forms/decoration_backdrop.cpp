@@ -25,12 +25,12 @@ void paintLight(QPainter& painter, const QRect& client) {
 void paintStaves(QPainter& painter, const QRect& client, const Scale& scale) {
     const double factor = std::min(scale.value(), MotifScale);
     const int gap = static_cast<int>(std::lround(8 * factor)), side = static_cast<int>(std::lround(26 * factor));
-    const int pitch = 13 * gap, middle = client.center().y(), bar = side + 7 * gap;
+    const int pitch = 13 * gap, middle = client.top() + client.height() / 2, bar = side + 7 * gap;
     for (int n = -(client.height() / 2 / pitch + 1); n <= client.height() / 2 / pitch + 1; ++n) {
         const int centre = middle + n * pitch, top = centre - 2 * gap;
         for (int i = 0; i < 5; ++i) painter.fillRect(QRect(client.left(), top + i * gap, client.width(), 1), Lines);
         painter.fillRect(QRect(client.left() + bar, top, 1, 4 * gap + 1), Lines);
-        painter.fillRect(QRect(client.right() - bar, top, 1, 4 * gap + 1), Lines);
+        painter.fillRect(QRect(client.right() + 1 - bar, top, 1, 4 * gap + 1), Lines);
         paintClef(painter, client.left() + side, centre + 0.5, gap, Clefs);
     }
 }

@@ -5,6 +5,9 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
+/// Resources of a static library are there only once they are asked for; the macro wants no namespace around it.
+static void registerDrawings() { Q_INIT_RESOURCE(zv_drawings); }
+
 namespace zv::forms {
 
 using namespace Qt::StringLiterals;
@@ -22,6 +25,8 @@ QString pathOf(const QString& name, QSize pixels) {
 } // namespace
 
 QPixmap drawing(const QString& name, QSize pixels, double devicePixelRatio) {
+    static const bool registered = (registerDrawings(), true);
+    Q_UNUSED(registered)
     const QSize device = (QSizeF(pixels) * devicePixelRatio).toSize();
     const QString path = pathOf(name, device);
     const QString key = u"%1 %2 %3 %4"_s.arg(path).arg(device.width()).arg(device.height()).arg(devicePixelRatio);

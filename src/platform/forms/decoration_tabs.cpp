@@ -24,7 +24,7 @@ void paintPadlock(QPainter& painter, const Scale& scale) {
     const QRect body = scale.rect({9990, 525, 165, 135});
     const double width = std::max(1.0, 0.13 * body.width());
     draw::box(painter, body, colour::Accent, colour::Accent, scale.hairline(), scale.px(22));
-    const double inset = 0.18 * body.width() + width / 2, top = scale.px(450) + width / 2;
+    const double inset = 0.18 * body.width() + width / 2, top = scale.px(435) + width / 2;
     const double radius = body.width() / 2.0 - inset;
     QPainterPath shackle;
     shackle.moveTo(body.left() + inset, body.top() + 1);
@@ -95,7 +95,7 @@ void paintStrip(QPainter& painter, StripRows rows, bool locked, const Scale& sca
         painter.fillRect(scale.rect({0, Row * row, Width, Row}), row == 0 ? colour::TabBand1 : colour::TabBand2);
         paintRowLine(painter, row + 1, scale);
     }
-    paintStaff(painter, {8020, 2120, 202, 60, true, true, {-1, 1, 3, 0, 2, -3}, 640, 254}, RowMotif, scale);
+    paintStaff(painter, {8020, 2120, 210, 60, true, true, {-1, 1, 3, 0, 2, -3}, 640, 254}, RowMotif, scale);
     if (rows == StripRows::One) paintStaff(painter, {165, 9990, 840, 90, false, false}, colour::Motif, scale);
     if (rows == StripRows::Two) paintStaff(painter, {165, 9990, 1042, 60, false, false}, colour::Motif, scale);
     if (locked) paintPadlock(painter, scale);

@@ -114,6 +114,7 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
         drawItem(*option, *painter, widget);
         return;
     }
+    case CE_Header:
     case CE_HeaderSection:
     case CE_HeaderEmptyArea:
     case CE_HeaderLabel:
@@ -170,7 +171,7 @@ QRect LookStyle::subControlRect(ComplexControl control, const QStyleOptionComple
                                 const QWidget* widget) const {
     if (control == CC_ScrollBar && part != SC_None) return scrollBarRect(*option, part, widget);
     if (control == CC_ComboBox) {
-        const int drop = scale_.px(300);
+        const int drop = scale_.px(300) + scale_.hairline();
         const QRect rect = option->rect;
         if (part == SC_ComboBoxEditField) {
             const int inset = scale_.px(TextInset), line = scale_.hairline();

@@ -142,7 +142,7 @@ void LookStyle::drawComboBox(const QStyleOptionComplex& option, QPainter& painte
     } else {
         painter.fillRect(QRect(face.left(), face.top(), line, face.height()), colour::Edge3);
     }
-    draw::arrow(painter, QRectF(face), Qt::DownArrow, state.enabled ? colour::Navy : colour::Edge2, scale_.px(135));
+    draw::arrow(painter, QRectF(face), Qt::DownArrow, state.enabled ? colour::Navy : colour::Edge2, scale_.px(120));
 }
 
 } // namespace zv::forms

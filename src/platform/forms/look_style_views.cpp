@@ -51,14 +51,15 @@ void LookStyle::drawFrame(const QStyleOption& option, QPainter& painter, const Q
 
 QRect LookStyle::itemRect(SubElement element, const QStyleOption& option, const QWidget*) const {
     const QStyleOptionViewItem& item = viewItem(option);
-    const int inset = scale_.px(CellInset);
+    const int inset = scale_.px(CellInset), end = scale_.px(CellInset / 2);
     const bool ticked = item.features & QStyleOptionViewItem::HasCheckIndicator;
     const int size = scale_.px(TickSize);
     const QRect& r = item.rect;
     if (element == SE_ItemViewItemCheckIndicator)
         return ticked ? QRect(r.left() + inset, r.top() + (r.height() - size) / 2, size, size) : QRect();
-    const int left = ticked ? inset + size + scale_.px(TickGap) : inset;
-    return element == SE_ItemViewItemText ? r.adjusted(left, 0, -inset, 0) : r;
+    const int begin = item.displayAlignment & Qt::AlignRight ? end : inset; // numbers keep to the right edge
+    const int left = ticked ? inset + size + scale_.px(TickGap) : begin;
+    return element == SE_ItemViewItemText ? r.adjusted(left, 0, -end, 0) : r;
 }
 
 void LookStyle::drawItem(const QStyleOption& option, QPainter& painter, const QWidget* widget) const {
@@ -81,7 +82,9 @@ void LookStyle::drawItem(const QStyleOption& option, QPainter& painter, const QW
     }
     const draw::Setting setting = settingOf(item, widget, scale_);
     const int down = setting.lines == 0 ? scale_.px(CellInset) / 2 : 0;
-    draw::text(painter, itemRect(SE_ItemViewItemText, option, widget).adjusted(0, down, 0, 0), item.text, setting);
+    // The middle of a cell counts the line under it.
+    const QRect words = itemRect(SE_ItemViewItemText, option, widget).adjusted(0, down, 0, grid ? 1 : 0);
+    draw::text(painter, words, item.text, setting);
     // A list whose rows are not selected still shows the keyboard where it stands.
     if (!grid && (item.state & State_HasFocus) && !(item.state & State_Selected))
         draw::box(painter, item.rect, Qt::NoBrush, colour::Accent, scale_.hairline(), 0);
@@ -90,23 +93,24 @@ void LookStyle::drawItem(const QStyleOption& option, QPainter& painter, const QW
 
 bool LookStyle::drawHeader(ControlElement element, const QStyleOption& option, QPainter& painter) const {
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(&option);
+    // Headings that can be sorted are those of the toolkit's own dialogs.
+    const bool plain = header && header->icon.isNull() && header->sortIndicator == QStyleOptionHeader::None;
+    if ((element == CE_Header || element == CE_HeaderLabel) && !plain) return false;
     const QRect& r = option.rect;
     const int line = scale_.hairline();
-    if (element == CE_HeaderLabel) {
-        if (!header || !header->icon.isNull()) return false;
-        const int inset = scale_.px(CellInset);
-        const auto across = header->textAlignment & Qt::AlignHorizontal_Mask;
-        draw::Setting setting{painter.font(), header->state & State_Enabled ? colour::Navy : colour::Disabled,
-                              across | Qt::AlignVCenter};
-        setting.font.setBold(true);
-        // The label's rectangle is the section's, whatever margins its caller took off.
-        draw::text(painter, r.adjusted(inset, 0, -inset / 2, 0), header->text, setting);
-        return true;
+    if (element != CE_HeaderLabel) {
+        painter.fillRect(r, colour::GridHead);
+        painter.fillRect(QRect(r.left(), r.bottom() + 1 - line, r.width(), line), colour::Edge2);
     }
-    painter.fillRect(r, colour::GridHead);
-    painter.fillRect(QRect(r.left(), r.bottom() + 1 - line, r.width(), line), colour::Edge2);
-    if (element == CE_HeaderSection)
+    if (element == CE_Header || element == CE_HeaderSection)
         painter.fillRect(QRect(r.right() + 1 - line, r.top(), line, r.height()), colour::Edge2);
+    if (element == CE_Header || element == CE_HeaderLabel) {
+        draw::Setting setting{painter.font(), option.state & State_Enabled ? colour::Navy : colour::Disabled,
+                              (header->textAlignment & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter};
+        setting.font.setBold(true);
+        const int inset = element == CE_Header ? scale_.px(CellInset) : 0; // else its caller has seen to it
+        draw::text(painter, r.adjusted(inset, 0, -inset / 2, 0), header->text, setting);
+    }
     return true;
 }
 
