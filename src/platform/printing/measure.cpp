@@ -13,10 +13,13 @@ int wholeCharacter(const QString& text, int end) {
     return parted ? end + 1 : end;
 }
 
-/// By how much a piece may become narrower, in em, while characters are added to it. Plain letters only lose a little
-/// to kerning and ligatures; scripts that join, stack or compose may replace several shapes by one.
+/// By how much a piece may become narrower, in em, while characters are added to it. Latin, Greek, Cyrillic and Chinese
+/// only lose a little to kerning and ligatures; scripts that join, stack or compose may replace several shapes by one.
 double shrinkage(const QString& text, int from, int to) {
-    const auto plain = [](QChar c) { return c.unicode() < 0x0590; };
+    const auto plain = [](QChar c) {
+        return c < QChar(0x0590) || (c >= QChar(0x2010) && c < QChar(0x2028)) ||
+               (c >= QChar(0x3000) && c < QChar(0xA000));
+    };
     return std::all_of(text.begin() + from, text.begin() + to, plain) ? 1 : 5;
 }
 

@@ -66,6 +66,7 @@ void QtPrinter::setForeColor(int bgr) {
 
 void QtPrinter::fontChanged() {
     metrics_ = QFontMetricsF(font_);
+    measured_.reset();
     if (painter_.isActive()) painter_.setFont(font_);
 }
 
@@ -75,8 +76,10 @@ double QtPrinter::lineHeight() const {
 }
 
 double QtPrinter::TextWidth(const QString& text) const {
+    if (measured_ && measured_->first == text) return measured_->second;
     double width = 0;
     for (const QString& line : linesOf(text)) width = std::max(width, metrics_.horizontalAdvance(line));
+    measured_ = {text, width};
     return width;
 }
 

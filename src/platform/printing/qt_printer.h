@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <optional>
 
 class QPagedPaintDevice;
 
@@ -53,6 +54,7 @@ class QtPrinter : public PenPrinter {
     QFont font_;
     QFontMetricsF metrics_;
     QColor color_ = Qt::black;
+    mutable std::optional<std::pair<QString, double>> measured_; // a line is measured again when it is printed
 };
 
 /// A printer into that PDF file on A4. The file is written whole or not at all: an older one of that name stays until

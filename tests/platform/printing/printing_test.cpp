@@ -146,6 +146,24 @@ TEST(QtPrinter, WritesAPdfWholeOrNotAtAll) {
     EXPECT_EQ(errorOf([&] { nowhere->EndDoc(); }), 0);
 }
 
+TEST(QtPrinter, PrintsOnAnyQtPrinter) {
+    const QTemporaryDir folder;
+    const auto device = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    device->setOutputFileName(folder.filePath(u"a.pdf"_s));
+    QtPrinter printer(device);
+    printer.PrintLine(u"one"_s);
+    printer.PaintPicture(QImage(2000, 2000, QImage::Format_RGB32), 904, 800, 1191, 1191);
+    printer.NewPage();
+    printer.PrintLine(u"two"_s);
+    printer.EndDoc();
+    EXPECT_EQ(device->printerState(), QPrinter::Idle);
+    QFile file(device->outputFileName());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray pdf = file.readAll();
+    EXPECT_EQ(pdf.count("/Type /Page\n"), 2);
+    EXPECT_TRUE(pdf.contains("/Width 249")) << "1191 twips at 300 dots to the inch";
+}
+
 TEST(QtPrinter, KeepsWhatStandsInThePlaceOfAPdfThatFails) {
     const QTemporaryDir folder;
     const QString pipe = folder.filePath(u"pipe"_s), path = folder.filePath(u"old.pdf"_s);
