@@ -104,7 +104,6 @@ class NumberReader {
                 digits_ += c.toLatin1();
             } else if (c == u'.' && !point) {
                 point = true;
-                if (!any) digits_ += '0';
                 digits_ += '.';
             } else if (c != u',' || !any || point) {
                 break;
@@ -185,7 +184,6 @@ double Val(QStringView source) {
         digits += at(i).toLatin1();
     }
     if (digits.empty() || digits == ".") return 0;
-    if (digits.front() == '.') digits.insert(0, "0");
     if (isExponentSign(at(i))) {
         const qsizetype first = isSign(at(i + 1)) ? i + 2 : i + 1;
         if (isDigit(at(first))) {
