@@ -7,11 +7,11 @@ namespace zv {
 
 /// Styles of a message box (sums of buttons and icon) and its answers.
 namespace box {
-inline constexpr int Critical = 16;       // OK
-inline constexpr int OkCancel = 33;       // OK and Cancel, question icon
-inline constexpr int YesNo = 36;          // Yes and No, question icon
-inline constexpr int Warning = 48;        // OK
-inline constexpr int Information = 64;    // OK
+inline constexpr int Critical = 16;    // OK
+inline constexpr int OkCancel = 33;    // OK and Cancel, question icon
+inline constexpr int YesNo = 36;       // Yes and No, question icon
+inline constexpr int Warning = 48;     // OK
+inline constexpr int Information = 64; // OK
 inline constexpr int YesNoInformation = 68;
 inline constexpr int Ok = 1;
 inline constexpr int Cancel = 2;

@@ -8,6 +8,12 @@ namespace zv {
 /// The path as this machine writes it: the last "\" of what the logic composes becomes the native separator.
 QString nativePath(const QString& path);
 
+/// Whether anything of that name exists: a file, a folder, a link that leads nowhere.
+bool isThere(const QString& path);
+
+/// Whether a file or folder may be written. One without any permission to write is read-only for every user.
+bool isWritable(const QString& path);
+
 /// The name of the file as it stands on the disk, "" if there is none (or only a folder, or a hidden file).
 QString Dir(const QString& path);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/jet/table_def.h"
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -16,10 +17,10 @@ class DBEngine {
     ~DBEngine();
 
     /// The open file of that path: one connection however many ask for it, closed when the last lets go.
-    /// Error 3024 without a file, 3343 for a file that is no catalogue (the text says what it is: a genuine Jet file
-    /// and how to convert it, another SQLite file, a newer version), 3049 for a damaged one, 3051 without the right to
-    /// read. A file that is refused is not changed by a byte. A file or folder without write permission opens for
-    /// reading; writes then raise 3027.
+    /// Error 3024 without a file, 3044 without its folder, 3343 for a file that is no catalogue (the text says what it
+    /// is: a genuine Jet file and how to convert it, another SQLite file, a newer version), 3049 for a damaged one,
+    /// 3051 without the right to read. A file that is refused is not changed by a byte. A file or folder without write
+    /// permission opens for reading; writes then raise 3027.
     std::shared_ptr<Database> OpenDatabase(const QString& path);
 
     /// Makes an empty catalogue with all tables. Error 3204 if anything of that name exists; a file that could not be
@@ -33,7 +34,7 @@ class DBEngine {
 
   private:
     std::vector<TableDef> tables_;
-    std::weak_ptr<Database> open_;
+    std::map<QString, std::weak_ptr<Database>> open_; ///< by absolute path
 };
 
 } // namespace zv::jet

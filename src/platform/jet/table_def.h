@@ -16,7 +16,8 @@ enum class ColumnKind {
 struct ColumnDef {
     QString name;
     ColumnKind kind;
-    int size = 0; ///< longest text in UTF-16 units; 0 for no limit
+    int size = 0;         ///< longest text in UTF-16 units; 0 for no limit
+    bool indexed = false; ///< rows are looked up by this column: new files get an index on it
 };
 
 struct TableDef {

@@ -1,0 +1,32 @@
+// A data channel.
+#include "platform/jet/data_control.h"
+
+#include "platform/base/runtime_error.h"
+#include "platform/jet/engine.h"
+#include "platform/jet/recordset_impl.h"
+
+namespace zv::jet {
+
+DataControl::DataControl(DBEngine& engine) : engine_(&engine) {}
+DataControl::~DataControl() = default;
+DataControl::DataControl(DataControl&&) noexcept = default;
+
+void DataControl::Refresh() {
+    recordset_.reset();
+    database_ = engine_->OpenDatabase(DatabaseName);
+    recordset_ = std::make_unique<jet::Recordset>(database_, RecordSource);
+}
+
+jet::Recordset& DataControl::Recordset() {
+    if (!recordset_) throw RuntimeError(91);
+    return *recordset_;
+}
+
+QString DataControl::boundText(const QString& column) { return Recordset().impl().boundText(column); }
+
+void DataControl::Close() {
+    recordset_.reset();
+    database_.reset();
+}
+
+} // namespace zv::jet
