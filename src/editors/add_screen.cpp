@@ -36,19 +36,19 @@ void AddScreen::addCounters() {
     using namespace forms;
     const QString fields = QString::number(kind().fieldCount);
     auto* frame = add<Frame>({}, {240, 5985, 3000, 1635});
-    addLabel({}, Role::Heading, u"Add"_s, {150, 90, 1200, 300}, type::L, true, Qt::AlignLeft | Qt::AlignVCenter, frame);
-    addLabel({}, Role::Heading, u"RECORDS"_s, {1500, 105, 1350, 270}, type::S, true, Qt::AlignRight | Qt::AlignVCenter,
+    addLabel({}, Role::Heading, u"Add"_s, {150, 90, 1200, 300}, type::L, true, ToLeft, frame);
+    addLabel({}, Role::Heading, u"RECORDS"_s, {1500, 105, 1350, 270}, type::S, true, ToRight,
              frame);
     add<Rule>({}, {150, 435, 2700, 0}, frame);
     const auto row = [&](const QString& caption, int top, const QString& name, const QString& tip,
                          const QString& fieldsTip) {
-        addLabel({}, Role::Caption, caption, {150, top, 660, 315}, type::G, true, Qt::AlignLeft | Qt::AlignVCenter,
+        addLabel({}, Role::Caption, caption, {150, top, 660, 315}, type::G, true, ToLeft,
                  frame);
         Label* value = addValue(name, u"0"_s, {900, top, 870, 315}, tip, frame);
-        addLabel({}, Role::Unit, u"R"_s, {1800, top, 180, 315}, type::S, false, Qt::AlignLeft | Qt::AlignVCenter,
+        addLabel({}, Role::Unit, u"R"_s, {1800, top, 180, 315}, type::S, false, ToLeft,
                  frame);
         addValue({}, fields, {2070, top, 510, 315}, fieldsTip, frame);
-        addLabel({}, Role::Unit, u"F"_s, {2610, top, 180, 315}, type::S, false, Qt::AlignLeft | Qt::AlignVCenter,
+        addLabel({}, Role::Unit, u"F"_s, {2610, top, 180, 315}, type::S, false, ToLeft,
                  frame);
         return value;
     };
@@ -112,7 +112,7 @@ void AddScreen::BtnImagenEliminar_Click() {
 void AddScreen::BtnGuardar_Click() {
     try {
         if (!readyToWrite()) return;
-        Data().RecordSource = kind().selectAll() + kind().saveTail;
+        Data().RecordSource = kind().selectAll() + kind().saveTail.toString();
         Data().Refresh();
         if (Data().Recordset().RecordCount() != 0) Data().Recordset().MoveLast();
         store().write(kind(), fillCampos(), true, Campos_);

@@ -56,7 +56,7 @@ void EditorScreen::addCaptions() {
     for (const CaptionPlace& caption : editorLayout(kind_.kind).captions)
         addLabel({}, Role::Caption, caption.text.toString(), caption.rect,
                  caption.small ? forms::type::S : forms::type::G, true,
-                 (caption.left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+                 caption.left ? forms::ToLeft : forms::ToRight);
 }
 
 void EditorScreen::addBoxes() {
@@ -85,17 +85,14 @@ Button* EditorScreen::addButton(const QString& name, const QString& caption, con
 Label* EditorScreen::addLabel(const QString& name, Role role, const QString& text, const forms::TwipsRect& rect,
                               int type, bool bold, Qt::Alignment alignment, QWidget* inside) {
     auto* label = add<Label>(name, rect, inside);
-    setRole(label, role);
-    label->setType(type, bold);
-    label->setAlignment(alignment);
-    label->setCaption(text);
+    label->dress(role, text, type, bold, alignment);
     return label;
 }
 
 Label* EditorScreen::addValue(const QString& name, const QString& text, const forms::TwipsRect& rect,
                               const QString& tip, QWidget* inside) {
     Label* label =
-        addLabel(name, Role::Value, text, rect, forms::type::M, false, Qt::AlignRight | Qt::AlignVCenter, inside);
+        addLabel(name, Role::Value, text, rect, forms::type::M, false, forms::ToRight, inside);
     label->setToolTipText(tip);
     return label;
 }

@@ -7,13 +7,6 @@ namespace zv::editors {
 using namespace Qt::StringLiterals;
 using namespace forms;
 
-namespace {
-
-constexpr auto Left = Qt::AlignLeft | Qt::AlignVCenter;
-constexpr auto Right = Qt::AlignRight | Qt::AlignVCenter;
-
-} // namespace
-
 ShowEditScreen::ShowEditScreen(shell::Context& context, QWidget* parent, const QString& name,
                                const store::KindInfo& kind)
     : EditorScreen(context, parent, name, kind) {
@@ -29,14 +22,14 @@ ShowEditScreen::ShowEditScreen(shell::Context& context, QWidget* parent, const Q
 
 void ShowEditScreen::addFrame() {
     Frame1 = add<Frame>(u"Frame1"_s, {240, 3750, 3000, 3870});
-    addLabel({}, Role::Heading, u"RECORDS"_s, {150, 120, 1500, 270}, type::S, true, Left, Frame1);
+    addLabel({}, Role::Heading, u"RECORDS"_s, {150, 120, 1500, 270}, type::S, true, ToLeft, Frame1);
     BtnReducirAmpliar = addLabel(u"BtnReducirAmpliar"_s, Role::LabelButton, store::EtiReducir, {1950, 105, 900, 300},
                                  type::S, true, Qt::AlignCenter, Frame1);
     BtnReducirAmpliar->setToolTipText(u"Reduce-Extend"_s);
     BtnReducirAmpliar->Click = [this] { BtnReducirAmpliar_Click(); };
     add<Rule>({}, {150, 480, 2700, 0}, Frame1);
-    addLabel({}, Role::Heading, u"Show"_s, {150, 660, 810, 330}, type::L, true, Left, Frame1);
-    addLabel(u"LabOrden"_s, Role::Caption, u"Order"_s, {1005, 660, 735, 330}, type::G, true, Right, Frame1);
+    addLabel({}, Role::Heading, u"Show"_s, {150, 660, 810, 330}, type::L, true, ToLeft, Frame1);
+    addLabel(u"LabOrden"_s, Role::Caption, u"Order"_s, {1005, 660, 735, 330}, type::G, true, ToRight, Frame1);
     TxtOrden = add<TextBox>(u"TxtOrden"_s, {1830, 660, 1020, 330}, Frame1);
     TxtOrden->setMaxLength(5);
     TxtOrden->setAlignment(Qt::AlignCenter);
@@ -56,10 +49,10 @@ void ShowEditScreen::addFrame() {
 void ShowEditScreen::addCounters() {
     const QString fields = QString::number(kind().fieldCount);
     const auto unit = [this](const QString& text, TwipsRect rect) {
-        addLabel({}, Role::Unit, text, rect, type::S, false, Left, Frame1);
+        addLabel({}, Role::Unit, text, rect, type::S, false, ToLeft, Frame1);
     };
     add<Rule>({}, {150, 2280, 2700, 0}, Frame1);
-    addLabel({}, Role::Heading, u"Selection"_s, {150, 2385, 2700, 270}, type::S, true, Left, Frame1);
+    addLabel({}, Role::Heading, u"Selection"_s, {150, 2385, 2700, 270}, type::S, true, ToLeft, Frame1);
     LabNumRegSeleccion =
         addValue(u"LabNumRegSeleccion"_s, u"0"_s, {150, 2670, 870, 315}, u"No. of Selected Records"_s, Frame1);
     unit(u"R"_s, {1050, 2670, 180, 315});
@@ -67,7 +60,7 @@ void ShowEditScreen::addCounters() {
     unit(u"F"_s, {1725, 2670, 150, 315});
     LabNumFiltros = addValue(u"LabNumFiltros"_s, u"0"_s, {1935, 2670, 585, 315}, u"No. of Selected Filters"_s, Frame1);
     unit(u"Fl"_s, {2550, 2670, 300, 315});
-    addLabel({}, Role::Heading, u"Removed"_s, {150, 3120, 2700, 270}, type::S, true, Left, Frame1);
+    addLabel({}, Role::Heading, u"Removed"_s, {150, 3120, 2700, 270}, type::S, true, ToLeft, Frame1);
     LabNumRegEliminados =
         addValue(u"LabNumRegEliminados"_s, u"0"_s, {150, 3405, 870, 315}, u"No. of Removed Records"_s, Frame1);
     unit(u"R"_s, {1050, 3405, 180, 315});

@@ -10,16 +10,6 @@ using namespace forms;
 namespace {
 
 constexpr int PictureCount = 21;
-constexpr auto Left = Qt::AlignLeft | Qt::AlignVCenter;
-constexpr auto Right = Qt::AlignRight | Qt::AlignVCenter;
-
-Label* dress(Label* label, Role role, const QString& text, int height, bool bold, Qt::Alignment alignment) {
-    setRole(label, role);
-    label->setType(height, bold);
-    label->setAlignment(alignment);
-    label->setCaption(text);
-    return label;
-}
 
 } // namespace
 
@@ -36,7 +26,7 @@ ListScreen::ListScreen(shell::Context& context, QWidget* parent, const QString& 
 
 void ListScreen::addGrid() {
     LabFondo = add<Label>(u"LabFondo"_s, {165, 120, 9990, 6360});
-    setRole(LabFondo, Role::Panel);
+    LabFondo->setLook(Role::Panel);
     LineImagen = add<Rule>(u"LineImagen"_s, {195, 150, 1485, 0});
     Label16 = dress(add<Label>(u"Label16"_s, {195, 165, 1485, 270}), Role::Heading, u"Image"_s, type::S, true,
                     Qt::AlignCenter);
@@ -68,7 +58,7 @@ void ListScreen::addGrid() {
 }
 
 void ListScreen::addChoice() {
-    dress(add<Label>(u"Label10"_s, {165, 6525, 2430, 195}), Role::Heading, u"Choose Fields"_s, type::XS, true, Left);
+    dress(add<Label>(u"Label10"_s, {165, 6525, 2430, 195}), Role::Heading, u"Choose Fields"_s, type::XS, true, ToLeft);
     List = add<CheckList>(u"List"_s, {165, 6720, 2430, 960});
     List->setType(type::G, false);
     List->setToolTipText(u"Fields"_s);
@@ -86,7 +76,7 @@ void ListScreen::addChoice() {
 }
 
 void ListScreen::addBars() {
-    dress(add<Label>({}, {3960, 6525, 1950, 195}), Role::Heading, u"Expand Rows"_s, type::XS, true, Left);
+    dress(add<Label>({}, {3960, 6525, 1950, 195}), Role::Heading, u"Expand Rows"_s, type::XS, true, ToLeft);
     HScroll = add<ScrollBar>(u"HScroll"_s, {3960, 6750, 1965, 330});
     HScroll->setOrientation(Qt::Horizontal);
     HScroll->setMin(1);
@@ -101,7 +91,7 @@ void ListScreen::addBars() {
     BtnAImagen->setText(u"Zoom 5"_s);
     BtnAImagen->setToolTipText(u"Zoom 5"_s);
     BtnAImagen->Click = [this] { HScroll->setValue(5); };
-    dress(add<Label>({}, {5190, 7200, 1215, 195}), Role::Heading, u"Process"_s, type::XS, true, Left);
+    dress(add<Label>({}, {5190, 7200, 1215, 195}), Role::Heading, u"Process"_s, type::XS, true, ToLeft);
     Progress = add<ProgressBar>(u"ProgressBar"_s, {5190, 7410, 1215, 270});
 }
 
@@ -112,24 +102,24 @@ void ListScreen::addCounters() {
         return dress(add<Label>(name, rect, frame), role, text, height, bold, align);
     };
     const auto value = [&](const QString& name, const QString& tip, TwipsRect rect) {
-        Label* made = label(name, Role::Value, u"0"_s, rect, type::M, false, Right);
+        Label* made = label(name, Role::Value, u"0"_s, rect, type::M, false, ToRight);
         made->setToolTipText(tip);
         return made;
     };
-    label(u"Label3"_s, Role::Heading, u"RECORDS"_s, {120, 60, 1200, 225}, type::S, true, Left);
-    label(u"Label1"_s, Role::Heading, u"- Zarvelia -"_s, {1950, 60, 1530, 225}, type::XS, true, Right);
+    label(u"Label3"_s, Role::Heading, u"RECORDS"_s, {120, 60, 1200, 225}, type::S, true, ToLeft);
+    label(u"Label1"_s, Role::Heading, u"- Zarvelia -"_s, {1950, 60, 1530, 225}, type::XS, true, ToRight);
     const auto units = [&](int top, const QString& r, const QString& f, const QString& fl) {
-        label(r, Role::Unit, u"R"_s, {1800, top, 165, 300}, type::S, false, Left);
-        label(f, Role::Unit, u"F"_s, {2520, top, 150, 300}, type::S, false, Left);
-        label(fl, Role::Unit, u"Fl"_s, {3240, top, 240, 300}, type::S, false, Left);
+        label(r, Role::Unit, u"R"_s, {1800, top, 165, 300}, type::S, false, ToLeft);
+        label(f, Role::Unit, u"F"_s, {2520, top, 150, 300}, type::S, false, ToLeft);
+        label(fl, Role::Unit, u"Fl"_s, {3240, top, 240, 300}, type::S, false, ToLeft);
     };
-    label(u"LabSeleccion"_s, Role::Caption, u"Selection"_s, {120, 345, 840, 300}, type::G, true, Left);
+    label(u"LabSeleccion"_s, Role::Caption, u"Selection"_s, {120, 345, 840, 300}, type::G, true, ToLeft);
     LabNumRegSeleccion = value(u"LabNumRegSeleccion"_s, u"No. of Selected Records"_s, {990, 345, 780, 300});
     LabCampos = value(u"LabCampos"_s, u"No. of Fields per Selected Record"_s, {2010, 345, 480, 300});
     LabCampos->setCaption(QString::number(kind_.fieldCount));
     LabNumFiltros = value(u"LabNumFiltros"_s, u"No. of Selected Filters"_s, {2730, 345, 480, 300});
     units(345, u"LabR"_s, u"LabC"_s, u"LabF"_s);
-    label(u"Label4"_s, Role::Caption, u"List"_s, {120, 720, 840, 300}, type::G, true, Left);
+    label(u"Label4"_s, Role::Caption, u"List"_s, {120, 720, 840, 300}, type::G, true, ToLeft);
     LabNumRegSeleccion1 = value(u"LabNumRegSeleccion1"_s, u"No. of Listed Records"_s, {990, 720, 780, 300});
     LabNumCampos = value(u"LabNumCampos"_s, u"No. of Fields per Listed Record"_s, {2010, 720, 480, 300});
     LabNumFiltros1 = value(u"LabNumFiltros1"_s, u"No. of Listed Filters"_s, {2730, 720, 480, 300});

@@ -10,10 +10,10 @@ using namespace Qt::StringLiterals;
 
 bool ListScreen::loadPicture(const QString& path, int side, PrintPicture& picture) {
     try {
-        const forms::PictureData data = forms::LoadPicture(path);
-        if (data.isEmpty()) return false;
-        const double w = data.naturalTwips.width(), h = data.naturalTwips.height();
-        picture.Picture = data.image;
+        const forms::PictureData loaded = forms::LoadPicture(path);
+        if (loaded.isEmpty()) return false;
+        const double w = loaded.naturalTwips.width(), h = loaded.naturalTwips.height();
+        picture.Picture = loaded.image;
         picture.Width = w >= h ? side : toLong(side * w / h);
         picture.Height = w >= h ? toLong(side * h / w) : side;
         return true;

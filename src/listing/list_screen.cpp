@@ -59,7 +59,7 @@ int ListScreen::columnsWidth() const {
 
 int ListScreen::rowsOfPage(int margin) const {
     const int bar = hasHorizontalBar() ? VScroll->Width() : 0;
-    return (Tabla->Height() - (hasHorizontalBar() ? RowUnit : margin) - bar) / (HScroll->Value() * RowUnit) + 1;
+    return (Tabla->Height() - margin - bar) / (HScroll->Value() * RowUnit) + 1;
 }
 
 // The highest zoom leaves no room for a horizontal bar.

@@ -8,21 +8,6 @@ namespace zv::selection {
 using namespace Qt::StringLiterals;
 using namespace forms;
 
-namespace {
-
-constexpr auto Left = Qt::AlignLeft | Qt::AlignVCenter;
-constexpr auto Right = Qt::AlignRight | Qt::AlignVCenter;
-
-Label* dress(Label* label, Role role, const QString& text, int height, bool bold, Qt::Alignment alignment) {
-    setRole(label, role);
-    label->setType(height, bold);
-    label->setAlignment(alignment);
-    label->setCaption(text);
-    return label;
-}
-
-} // namespace
-
 SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QString& name, const store::KindInfo& kind)
     : Screen(context, parent, name), kind_(kind) {
     auto* emblem = add<Picture>({}, {240, 240, 3000, 3000});
@@ -60,21 +45,21 @@ void SelectScreen::addCounters() {
         return dress(add<Label>({}, rect, frame), role, text, height, bold, align);
     };
     const auto value = [&](const QString& name, const QString& tip, int top) {
-        auto* made = dress(add<Label>(name, {1140, top, 1140, 315}, frame), Role::Value, u"0"_s, type::M, false, Right);
+        auto* made = dress(add<Label>(name, {1140, top, 1140, 315}, frame), Role::Value, u"0"_s, type::M, false, ToRight);
         made->setToolTipText(tip);
         return made;
     };
-    label(Role::Heading, u"RECORDS"_s, {150, 105, 2700, 270}, type::S, true, Left);
+    label(Role::Heading, u"RECORDS"_s, {150, 105, 2700, 270}, type::S, true, ToLeft);
     add<Rule>({}, {150, 435, 2700, 0}, frame);
-    label(Role::Caption, u"Total"_s, {150, 570, 900, 315}, type::G, true, Left);
+    label(Role::Caption, u"Total"_s, {150, 570, 900, 315}, type::G, true, ToLeft);
     LabNumRegTotal = value(u"LabNumRegTotal"_s, u"Total No. of Records"_s, 570);
-    label(Role::Unit, u"R"_s, {2325, 570, 180, 315}, type::S, false, Left);
+    label(Role::Unit, u"R"_s, {2325, 570, 180, 315}, type::S, false, ToLeft);
     add<Rule>({}, {150, 1050, 2700, 0}, frame);
-    label(Role::Caption, u"Selection"_s, {150, 1185, 900, 315}, type::G, true, Left);
+    label(Role::Caption, u"Selection"_s, {150, 1185, 900, 315}, type::G, true, ToLeft);
     LabNumReg = value(u"LabNumReg"_s, u"No. of Selected Records"_s, 1185);
-    label(Role::Unit, u"R"_s, {2325, 1185, 180, 315}, type::S, false, Left);
+    label(Role::Unit, u"R"_s, {2325, 1185, 180, 315}, type::S, false, ToLeft);
     LabNumRegFiltros = value(u"LabNumRegFiltros"_s, u"No. of Selected Filters"_s, 1635);
-    label(Role::Unit, u"Fl"_s, {2325, 1635, 240, 315}, type::S, false, Left);
+    label(Role::Unit, u"Fl"_s, {2325, 1635, 240, 315}, type::S, false, ToLeft);
 }
 
 void SelectScreen::addFilterFrame() {
@@ -104,14 +89,14 @@ void SelectScreen::addFilterFrame() {
     BtnY->Click = [this] { join(u" AND "_s, *BtnY); };
     BtnO->Click = [this] { join(u" OR "_s, *BtnO); };
     LabNumFiltros = dress(add<Label>(u"LabNumFiltros"_s, {4995, 1110, 810, 315}, frame), Role::Value, u"0"_s, type::M,
-                          false, Right);
+                          false, ToRight);
     LabNumFiltros->setToolTipText(u"No. of Selected Filters"_s);
-    dress(add<Label>({}, {5850, 1110, 300, 315}, frame), Role::Unit, u"Fl"_s, type::S, false, Left);
+    dress(add<Label>({}, {5850, 1110, 300, 315}, frame), Role::Unit, u"Fl"_s, type::S, false, ToLeft);
 }
 
 void SelectScreen::addOrderFrame() {
     auto* frame = add<Frame>({}, {3555, 6315, 6315, 735});
-    dress(add<Label>({}, {150, 195, 735, 345}, frame), Role::Caption, u"Order"_s, type::G, true, Left);
+    dress(add<Label>({}, {150, 195, 735, 345}, frame), Role::Caption, u"Order"_s, type::G, true, ToLeft);
     ComboCampoOrden = add<Combo>(u"ComboCampoOrden"_s, {990, 195, 2505, 345}, frame);
     ComboCampoOrden->setToolTipText(u"Choose Field"_s);
     ComboCampoOrden->Click = [this] { ComboCampoOrden_Click(); };

@@ -168,8 +168,8 @@ void SelectScreen::BtnAnadir_Click() {
     const QString typed = TxtValFiltro->Text();
     if (typed == TextoValor || Campo.isEmpty() || Criterio.isEmpty() || Trim(typed).isEmpty()) return;
     const bool first = OpcionSQL.isEmpty();
-    const QString words = ComboCampo->Text() + u' ' + ComboCriterio->Text() + u" '" + typed + u'\'';
-    ValorFiltro = first ? words : u'(' + ValorFiltro + u' ' + EtiquetaOperador + u' ' + words + u") ";
+    const QString words = ComboCampo->Text() + u' ' + ComboCriterio->Text() + u" '"_s + typed + u'\'';
+    ValorFiltro = first ? words : u'(' + ValorFiltro + u' ' + EtiquetaOperador + u' ' + words + u") "_s;
     EtiquetaOperador.prepend(u"       "_s);
     if (!first) ListFiltros->AddItem(EtiquetaOperador);
     ListFiltros->AddItem(ComboCampo->Text());
@@ -220,8 +220,8 @@ void SelectScreen::join(const QString& operador, const forms::Button& button) {
 
 QString SelectScreen::statement() const {
     QString text = kind_.selectAll();
-    if (OpcionSQL != All) text += u" WHERE " + OpcionSQL;
-    if (CriterioOrden != NoOrder) text += u" ORDER BY " + CampoOrden + CriterioOrden;
+    if (OpcionSQL != All) text += u" WHERE "_s + OpcionSQL;
+    if (CriterioOrden != NoOrder) text += u" ORDER BY "_s + CampoOrden + CriterioOrden;
     return text;
 }
 

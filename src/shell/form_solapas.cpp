@@ -69,7 +69,7 @@ FormSolapas::FormSolapas(Context& context, QWidget* window, std::vector<ScreenEn
     for (int records = 0; records < 2; ++records)
         for (int f = 0; f < 4; ++f) {
             TabControl* control =
-                row(u"TabReg%1"_s.arg(records + 1) + FunctionNames[f], 2, Entities[std::size_t(records)], 0);
+                row(u"TabReg%1"_s.arg(records + 1) + FunctionNames[f].toString(), 2, Entities[std::size_t(records)], 0);
             control->Click = [this, records, f] { entityClick(records + 1, static_cast<Function>(f)); };
             TabEntidad[std::size_t(records)][std::size_t(f)] = control;
         }

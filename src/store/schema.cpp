@@ -4,6 +4,8 @@
 
 namespace zv::store {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 jet::ColumnDef columnDef(const Field& field) {
@@ -26,7 +28,7 @@ int KindInfo::indexOf(QStringView column) const {
     return -1;
 }
 
-QString KindInfo::selectAll() const { return u"SELECT * FROM " + table; }
+QString KindInfo::selectAll() const { return u"SELECT * FROM "_s + table.toString(); }
 
 const KindInfo& info(Kind kind) { return description::Kinds[static_cast<int>(kind)]; }
 
@@ -49,7 +51,10 @@ std::vector<jet::TableDef> tableDefs() {
     }
     for (const LinkInfo& link : links()) {
         jet::TableDef def{link.table.toString(), {}};
-        for (const Field& field : link.fields) def.columns.push_back(columnDef(field));
+        for (const Field& field : link.fields) {
+            def.columns.push_back(columnDef(field));
+            def.columns.back().indexed = true;
+        }
         defs.push_back(std::move(def));
     }
     return defs;

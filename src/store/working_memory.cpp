@@ -16,9 +16,9 @@ constexpr QStringView RecordingClauses[] = {u"Compositor", u"Obra",    u"Orquest
 
 class Lines {
   public:
-    void number(const QString& name, qint32 value) { lines_ += name + u" = " + QString::number(value); }
-    void flag(const QString& name, bool value) { lines_ += name + (value ? u" = True" : u" = False"); }
-    void text(const QString& name, const QString& value) { lines_ += name + u" = \"" + value + u'"'; }
+    void number(const QString& name, qint32 value) { lines_ += name + u" = "_s + QString::number(value); }
+    void flag(const QString& name, bool value) { lines_ += name + (value ? u" = True"_s : u" = False"_s); }
+    void text(const QString& name, const QString& value) { lines_ += name + u" = \""_s + value + u'"'; }
     QString joined() const { return lines_.join(u'\n') + u'\n'; }
 
   private:
@@ -27,38 +27,38 @@ class Lines {
 
 void dumpCounters(Lines& lines, const KindInfo& kind, const KindMemory& memory) {
     const QString table = kind.table.toString();
-    lines.number(u"Cont" + table, memory.Cont);
-    lines.number(u"Posicion" + table, memory.Posicion);
-    lines.number(u"ContSel" + table, memory.ContSel);
-    lines.number(u"ContEli" + table, memory.ContEli);
-    lines.number(u"ContNew" + table, memory.ContNew);
-    lines.number(u"ContFil" + table, memory.ContFil);
+    lines.number(u"Cont"_s + table, memory.Cont);
+    lines.number(u"Posicion"_s + table, memory.Posicion);
+    lines.number(u"ContSel"_s + table, memory.ContSel);
+    lines.number(u"ContEli"_s + table, memory.ContEli);
+    lines.number(u"ContNew"_s + table, memory.ContNew);
+    lines.number(u"ContFil"_s + table, memory.ContFil);
 }
 
 void dumpSelection(Lines& lines, const KindInfo& kind, const SelectionMemory& memory) {
-    const QString prefix = u"MemoSel" + kind.shortName.toString();
-    lines.number(prefix + u"NT", memory.NT);
+    const QString prefix = u"MemoSel"_s + kind.shortName.toString();
+    lines.number(prefix + u"NT"_s, memory.NT);
     if (kind.kind == Kind::Grabacion)
         for (std::size_t i = 0; i < memory.OpcionesGrabacion.size(); ++i)
-            lines.text(prefix + u"OpcionSQL" + RecordingClauses[i].toString(), memory.OpcionesGrabacion[i]);
+            lines.text(prefix + u"OpcionSQL"_s + RecordingClauses[i].toString(), memory.OpcionesGrabacion[i]);
     else
-        lines.text(prefix + u"OpcionSQL", memory.OpcionSQL);
-    lines.text(prefix + u"ValorFiltro", memory.ValorFiltro);
-    lines.text(prefix + u"Lista", memory.Lista);
-    lines.number(prefix + u"CampoOrden", memory.CampoOrden);
-    lines.number(prefix + u"CriterioOrden", memory.CriterioOrden);
+        lines.text(prefix + u"OpcionSQL"_s, memory.OpcionSQL);
+    lines.text(prefix + u"ValorFiltro"_s, memory.ValorFiltro);
+    lines.text(prefix + u"Lista"_s, memory.Lista);
+    lines.number(prefix + u"CampoOrden"_s, memory.CampoOrden);
+    lines.number(prefix + u"CriterioOrden"_s, memory.CriterioOrden);
 }
 
 void dumpList(Lines& lines, const KindInfo& kind, const ListMemory& memory) {
-    const QString prefix = u"MemoLis" + kind.shortName.toString();
-    lines.number(prefix + u"Posicion", memory.Posicion);
-    lines.number(prefix + u"Posicion2", memory.Posicion2);
+    const QString prefix = u"MemoLis"_s + kind.shortName.toString();
+    lines.number(prefix + u"Posicion"_s, memory.Posicion);
+    lines.number(prefix + u"Posicion2"_s, memory.Posicion2);
     for (std::size_t i = 0; i < memory.Campo.size(); ++i)
-        lines.flag(kind.listTicks + u'(' + QString::number(i) + u')', memory.Campo[i]);
+        lines.flag(kind.listTicks.toString() + u'(' + QString::number(i) + u')', memory.Campo[i]);
     // Records II declares one flag per field as well. No screen ever sets them.
     if (kind.form == 2)
         for (const Field& field : kind.fields)
-            if (field.value != Value::Key) lines.flag(prefix + u"Campo" + field.column.toString(), false);
+            if (field.value != Value::Key) lines.flag(prefix + u"Campo"_s + field.column.toString(), false);
 }
 
 } // namespace
@@ -99,7 +99,7 @@ QString WorkingMemory::dump() const {
             lines.text(u"MemoAnaGraNotas"_s, Grabacion.AnaNotas);
             lines.text(u"MemoMosGraNotas"_s, Grabacion.MosNotas);
         }
-        lines.flag(u"Memo" + kind.shortName.toString() + u"RedAmp", memory.RedAmp);
+        lines.flag(u"Memo"_s + kind.shortName.toString() + u"RedAmp"_s, memory.RedAmp);
         dumpSelection(lines, kind, memory.MemoSel);
         dumpList(lines, kind, memory.MemoLis);
     }

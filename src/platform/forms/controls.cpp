@@ -16,6 +16,13 @@ void Label::setCaption(const QString& text) {
     setText(text);
 }
 
+void Label::dress(Role role, const QString& text, int typeTwips, bool bold, Qt::Alignment alignment) {
+    setLook(role);
+    setType(typeTwips, bold);
+    setAlignment(alignment);
+    setCaption(text);
+}
+
 void Label::setForeColor(const QColor& colour) {
     QPalette changed = palette();
     changed.setColor(QPalette::WindowText, colour);
@@ -242,7 +249,7 @@ TabControl::TabControl(QWidget* parent) : Control(parent) {
 
 void TabControl::setTabs(const std::vector<std::pair<QString, int>>& tabs, int first) {
     filling_ = true;
-    edges_.assign(1, rect().Left);
+    edges_.assign(1, Left());
     for (const auto& [caption, pitch] : tabs) {
         edges_.push_back(edges_.back() + pitch);
         addTab(caption);

@@ -22,6 +22,8 @@ class Label : public Control<LookLabel> {
 
     const QString& Caption() const { return caption_; }
     void setCaption(const QString& text);
+    /// Sets what the label is, its words and its type at once.
+    void dress(Role role, const QString& text, int typeTwips, bool bold, Qt::Alignment alignment);
     /// Colours of text and ground; an invalid ground is none.
     void setForeColor(const QColor& colour);
     void setBackColor(const QColor& colour);
@@ -36,6 +38,11 @@ class Label : public Control<LookLabel> {
     QString caption_;
     bool pressed_ = false;
 };
+
+inline Label* dress(Label* label, Role role, const QString& text, int typeTwips, bool bold, Qt::Alignment alignment) {
+    label->dress(role, text, typeTwips, bold, alignment);
+    return label;
+}
 
 class Button : public Control<QPushButton> {
   public:

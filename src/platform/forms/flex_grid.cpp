@@ -1,9 +1,41 @@
 #include "platform/forms/flex_grid.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 namespace zv::forms {
+
+namespace {
+
+/// Rows taller than this show their text from the top and wrapped, lower ones one line.
+constexpr int LowRow = 420;
+/// More text than fits the tallest cell is not laid out.
+constexpr int LongestLine = 300, LongestText = 6000;
+
+class CellDelegate : public QStyledItemDelegate {
+  public:
+    CellDelegate(FlexGrid* grid) : QStyledItemDelegate(grid), grid_(grid) {}
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const bool low = option->rect.height() <= grid_->px(LowRow);
+        option->text.truncate(low ? LongestLine : LongestText);
+        if (low) {
+            option->text.replace(QChar::LineSeparator, u' ').replace(u'\n', u' ');
+            option->features &= ~QStyleOptionViewItem::WrapText;
+        }
+        option->textElideMode = Qt::ElideRight;
+        option->state &= ~QStyle::State_HasFocus;
+    }
+
+  private:
+    FlexGrid* grid_;
+};
+
+} // namespace
 
 FlexGrid::FlexGrid(QWidget* parent) : Control(parent) {
     setRole(this, Role::Grid);
@@ -14,6 +46,8 @@ FlexGrid::FlexGrid(QWidget* parent) : Control(parent) {
     setCornerButtonEnabled(false);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setItemDelegate(new CellDelegate(this));
+    setWordWrap(true);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(0);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -62,6 +96,17 @@ void FlexGrid::setFixedRows(int rows) {
 void FlexGrid::setRowHeightMin(int twips) {
     minHeight_ = twips;
     layoutSizes();
+}
+
+void FlexGrid::setColumnsResizable(bool resizable) {
+    horizontalHeader()->setSectionResizeMode(resizable ? QHeaderView::Interactive : QHeaderView::Fixed);
+}
+
+void FlexGrid::setNeverScrollsDown() {
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int max) {
+        if (max > 0) verticalScrollBar()->setRange(0, 0);
+    });
 }
 
 void FlexGrid::setRow(int row) {
@@ -173,6 +218,7 @@ void FlexGrid::layoutSizes() {
 void FlexGrid::applyScale(const Scale& scale) {
     Placed::applyScale(scale);
     horizontalHeader()->setFont(scale.font(typeHeight(), true));
+    horizontalScrollBar()->setFixedHeight(scale.px(240));
     layoutSizes();
 }
 

@@ -22,6 +22,10 @@ class FlexGrid : public Control<QTableWidget> {
     void setCols(int cols);
     /// 1 makes the first row the heading. Error 30016 if no other row is left.
     void setFixedRows(int rows);
+    /// Whether a drag changes the width of a column.
+    void setColumnsResizable(bool resizable);
+    /// The grid keeps its first row on top whatever stands below its edge.
+    void setNeverScrollsDown();
     void setDefaultColWidth(int twips) { defaultWidth_ = twips; }
     /// Height in twips of rows that the logic has not set.
     void setRowHeightMin(int twips);
@@ -49,6 +53,8 @@ class FlexGrid : public Control<QTableWidget> {
 
     void applyScale(const Scale& scale) override;
     void clearHandlers() override;
+    /// Pixels of a length in twips.
+    int px(int twips) const { return scale() ? scale()->px(twips) : twips / 15; }
 
   protected:
     void focusInEvent(QFocusEvent* event) override;

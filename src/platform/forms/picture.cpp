@@ -40,11 +40,11 @@ PictureData LoadPicture(const QString& path) {
 
 Picture::Picture(QWidget* parent) : Control(parent) { setRole(this, Role::Picture); }
 
-void Picture::setPicture(const PictureData& data) {
-    data_ = data;
+void Picture::setPicture(const PictureData& shown) {
+    data_ = shown;
     scaled_ = {};
-    setPixmap(data.image.isNull() ? QPixmap() : QPixmap::fromImage(data.image));
-    if (!data.drawing.isEmpty()) setPixmap(drawing(data.drawing, {200, 200}));
+    setPixmap(data_.image.isNull() ? QPixmap() : QPixmap::fromImage(data_.image));
+    if (!data_.drawing.isEmpty()) setPixmap(drawing(data_.drawing, {200, 200}));
     if (!stretch_ && !data_.naturalTwips.isEmpty())
         place({Left(), Top(), data_.naturalTwips.width(), data_.naturalTwips.height()});
     update();

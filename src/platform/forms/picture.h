@@ -30,7 +30,7 @@ class Picture : public Control<QLabel> {
 
     const PictureData& picture() const { return data_; }
     /// Without Stretch the box takes the picture's natural size.
-    void setPicture(const PictureData& data);
+    void setPicture(const PictureData& shown);
     void clear() { setPicture({}); }
     void setStretch(bool stretch);
 

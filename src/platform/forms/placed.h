@@ -9,6 +9,9 @@
 
 namespace zv::forms {
 
+/// Where the text of a label stands: at either side, in the middle of the height.
+inline constexpr Qt::Alignment ToLeft = Qt::AlignLeft | Qt::AlignVCenter, ToRight = Qt::AlignRight | Qt::AlignVCenter;
+
 /// A handler of the logic. It is copied before it runs, so that it may unload its own form.
 using Handler = std::function<void()>;
 
