@@ -1,0 +1,65 @@
+#include "support/desk.h"
+
+#include "platform/forms/look_style.h"
+#include <QApplication>
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace zv::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void fail(const QString& words) { ADD_FAILURE() << words.toStdString(); }
+
+} // namespace
+
+Desk::Desk() : boxes(fail), files(fail) {
+    setFatalErrorHandler([](const RuntimeError& error) {
+        ADD_FAILURE() << "Run-time error " << error.number() << ": " << error.text().toStdString();
+    });
+    jet::DBEngine(store::tableDefs()).CreateDatabase(file());
+}
+
+Desk::~Desk() {
+    hands.reset();
+    program.reset();
+    boxes.checkAllShown();
+}
+
+void Desk::put(const Rows& rows) {
+    SQLite::Database database(file().toStdString(), SQLite::OPEN_READWRITE);
+    SQLite::Transaction transaction(database);
+    for (const QString& values : rows.values)
+        database.exec((u"INSERT INTO "_s + rows.table + u'(' + rows.columns + u") VALUES("_s + values + u')').toStdString());
+    transaction.commit();
+}
+
+void Desk::start(QSize size) {
+    program = std::make_unique<app::Program>(boxes, files, printers);
+    hands = std::make_unique<driver::Driver>(*program, fail);
+    forms::LookStyle::install(program->scale);
+    program->window.resize(size);
+    ASSERT_TRUE(program->window.Load(folder()));
+    program->window.show();
+    hands->enter();
+}
+
+void Desk::close(int answer) {
+    boxes.expect(u"COMPACT the Database?\r\rRecommended."_s, box::YesNo, answer);
+    program->window.close();
+}
+
+QStringList Desk::stored(const QString& table, const QString& columns) {
+    SQLite::Database database(file().toStdString(), SQLite::OPEN_READONLY);
+    SQLite::Statement query(database, (u"SELECT "_s + columns + u" FROM "_s + table + u" ORDER BY rowid"_s).toStdString());
+    QStringList lines;
+    while (query.executeStep()) {
+        QStringList cells;
+        for (int i = 0; i < query.getColumnCount(); ++i) cells += QString::fromStdString(query.getColumn(i).getString());
+        lines += cells.join(u'|');
+    }
+    return lines;
+}
+
+} // namespace zv::test

@@ -1,0 +1,46 @@
+// The companion tool: what is done to a catalogue from outside the program.
+#include "platform/base/files.h"
+#include "platform/jet/engine.h"
+#include "store/channels.h"
+#include <CLI/CLI.hpp>
+#include <QDir>
+#include <QFileInfo>
+#include <cstdio>
+
+using namespace zv;
+
+namespace {
+
+/// Makes an empty catalogue in a folder. Returns the status of the process.
+int makeCatalogue(const QString& folder) {
+    if (!QFileInfo(folder).isDir()) {
+        std::fprintf(stderr, "%s is no folder.\n", qPrintable(folder));
+        return 1;
+    }
+    const QString file = QDir(folder).filePath(store::DatabaseFile);
+    try {
+        jet::DBEngine(store::tableDefs()).CreateDatabase(file);
+    } catch (const RuntimeError& error) {
+        if (error.number() == 3204)
+            std::fprintf(stderr, "%s is there already; it was left as it is.\n", qPrintable(file));
+        else
+            std::fprintf(stderr, "%s could not be made: error %d, %s\n", qPrintable(file), error.number(),
+                         qPrintable(error.text()));
+        return 1;
+    }
+    std::printf("%s\n", qPrintable(file));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    CLI::App tool("Makes catalogues for Zarvelia.", "zarvelia-tool");
+    tool.set_version_flag("--version", ZV_VERSION);
+    tool.require_subcommand(1);
+    std::string folder;
+    CLI::App* make = tool.add_subcommand("new", "Makes an empty catalogue, DataZV.mdb, in a folder.");
+    make->add_option("FOLDER", folder, "The folder, which must exist and hold no catalogue.")->required();
+    CLI11_PARSE(tool, argc, argv);
+    return makeCatalogue(QString::fromLocal8Bit(folder.c_str()));
+}
