@@ -52,7 +52,8 @@ void paintTab(QPainter& painter, const TabLook& tab, const Scale& scale);
 enum class StripRows { Three, Two, One };
 void paintStrip(QPainter& painter, StripRows rows, bool locked, const Scale& scale);
 
-/// A drawing of the program's own, rendered sharp at that size: "compositor", "logo", "icon" and so on.
+/// A drawing of the program's own, rendered sharp at that size and in its own proportions: "compositor", "logo", "icon"
+/// and so on. Null for a name that is none.
 QPixmap drawing(const QString& name, QSize pixels, double devicePixelRatio = 1.0);
 
 } // namespace zv::forms

@@ -31,9 +31,8 @@ QPixmap drawing(const QString& name, QSize pixels, double devicePixelRatio) {
     const QString path = pathOf(name, device);
     const QString key = u"%1 %2 %3 %4"_s.arg(path).arg(device.width()).arg(device.height()).arg(devicePixelRatio);
     QPixmap pixmap;
-    if (device.isEmpty() || QPixmapCache::find(key, &pixmap)) return pixmap;
+    if (device.isEmpty() || QPixmapCache::find(key, &pixmap) || !QFile::exists(path)) return pixmap;
     QSvgRenderer renderer(path);
-    if (!renderer.isValid()) return pixmap;
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     pixmap = QPixmap(device);
     pixmap.fill(Qt::transparent);

@@ -96,8 +96,8 @@ void paintStrip(QPainter& painter, StripRows rows, bool locked, const Scale& sca
         paintRowLine(painter, row + 1, scale);
     }
     paintStaff(painter, {8020, 2120, 210, 60, true, true, {-1, 1, 3, 0, 2, -3}, 640, 254}, RowMotif, scale);
-    if (rows == StripRows::One) paintStaff(painter, {165, 9990, 840, 90, false, false}, colour::Motif, scale);
-    if (rows == StripRows::Two) paintStaff(painter, {165, 9990, 1042, 60, false, false}, colour::Motif, scale);
+    if (rows == StripRows::One) paintStaff(painter, {165, 9990, 855, 90, false, false}, colour::Motif, scale);
+    if (rows == StripRows::Two) paintStaff(painter, {165, 9990, 1057, 60, false, false}, colour::Motif, scale);
     if (locked) paintPadlock(painter, scale);
     draw::box(painter, all, Qt::NoBrush, Border, line, 0);
 }

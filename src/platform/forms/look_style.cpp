@@ -3,6 +3,7 @@
 
 #include "platform/forms/look_style_draw.h"
 #include "platform/forms/look_style_focus.h"
+#include "platform/forms/look_style_icons.h"
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -70,7 +71,12 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         draw::tickBox(*painter, option->rect, tick, draw::stateOf(*option, widget), scale_);
         return;
     }
+    case PE_IndicatorRadioButton:
+        draw::roundTick(*painter, option->rect, option->state & State_On, draw::stateOf(*option, widget), scale_);
+        return;
     case PE_PanelTipLabel: draw::box(*painter, option->rect, colour::Tip, colour::Edge, scale_.hairline(), 0); return;
+    case PE_PanelMenu: draw::box(*painter, option->rect, colour::Panel, colour::Edge, scale_.hairline(), 0); return;
+    case PE_FrameMenu: return;
     case PE_PanelScrollAreaCorner: painter->fillRect(option->rect, option->palette.color(QPalette::Base)); return;
     case PE_PanelItemViewRow:
         if (qobject_cast<const QTableView*>(widget) || qobject_cast<const QListView*>(widget)) return;
@@ -208,8 +214,10 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_TextCursorWidth:
     case PM_DefaultFrameWidth: return scale_.hairline();
     case PM_IndicatorWidth:
-    case PM_IndicatorHeight: return scale_.px(165);
-    case PM_FocusFrameHMargin: return scale_.px(60);
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight: return scale_.px(165);
+    case PM_FocusFrameHMargin:
     case PM_HeaderMargin: return scale_.px(60);
     case PM_ToolTipLabelFrameWidth: return scale_.px(75);
     case PM_MessageBoxIconSize: return scale_.px(540);
@@ -224,6 +232,11 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ButtonShiftVertical: return 0;
     default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+QIcon LookStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const {
+    const QIcon own = draw::messageIcon(which, pixelMetric(PM_MessageBoxIconSize, option, widget));
+    return own.isNull() ? QProxyStyle::standardIcon(which, option, widget) : own;
 }
 
 int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -248,10 +261,13 @@ void LookStyle::polishMemo(QPlainTextEdit& memo) const {
     if (document.documentMargin() > MemoMargin) {
         // A margin is no change of the text: nobody is told of it, and it cannot be undone.
         const QSignalBlocker silent(document);
+        const bool undo = document.isUndoRedoEnabled();
         document.setUndoRedoEnabled(false);
         document.setDocumentMargin(MemoMargin);
-        document.setUndoRedoEnabled(!memo.isReadOnly() || memo.isUndoRedoEnabled());
+        document.setUndoRedoEnabled(undo);
     }
+    // Its words wrap; a bar below would only take their place.
+    if (memo.lineWrapMode() == QPlainTextEdit::WidgetWidth) memo.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int used = frameOf(&memo) + static_cast<int>(MemoMargin);
     const int across = std::max(0, scale_.px(MemoLeft) - used), down = std::max(0, scale_.px(MemoTop) - used);
     Margins::set(memo, across, down, down, down);

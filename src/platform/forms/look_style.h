@@ -21,6 +21,7 @@ class LookStyle : public QProxyStyle {
     QRect subControlRect(ComplexControl, const QStyleOptionComplex*, SubControl, const QWidget*) const override;
     QSize sizeFromContents(ContentsType, const QStyleOption*, const QSize&, const QWidget*) const override;
     int pixelMetric(PixelMetric, const QStyleOption*, const QWidget*) const override;
+    QIcon standardIcon(StandardPixmap, const QStyleOption*, const QWidget*) const override;
     int styleHint(StyleHint, const QStyleOption*, const QWidget*, QStyleHintReturn*) const override;
     void polish(QWidget*) override;
     using QProxyStyle::polish;

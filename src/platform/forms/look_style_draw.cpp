@@ -25,6 +25,7 @@ class Kept {
     QPainter& painter_;
 };
 
+constexpr QColor TickGround{0xF2, 0xF2, 0xF4};
 constexpr int BoxRadius = 30, ButtonRadius = 45, FrameRadius = 45; // twips
 constexpr QColor White{0xFF, 0xFF, 0xFF};
 
@@ -145,8 +146,7 @@ void arrow(QPainter& painter, const QRectF& rect, Qt::ArrowType type, const QCol
 }
 
 void tickBox(QPainter& painter, const QRect& rect, Qt::CheckState tick, const State& state, const Scale& scale) {
-    constexpr QColor Ground{0xF2, 0xF2, 0xF4};
-    box(painter, rect, Ground, state.enabled ? colour::Edge : colour::Edge3, scale.hairline(), scale.px(BoxRadius));
+    box(painter, rect, TickGround, state.enabled ? colour::Edge : colour::Edge3, scale.hairline(), scale.px(BoxRadius));
     if (tick == Qt::Unchecked) return;
     const Kept kept(painter);
     const double unit = rect.width() / 10.0;
@@ -163,6 +163,14 @@ void tickBox(QPainter& painter, const QRect& rect, Qt::CheckState tick, const St
         path.lineTo(8.6 * unit, 1.4 * unit);
     }
     painter.drawPath(path);
+}
+
+void roundTick(QPainter& painter, const QRect& rect, bool on, const State& state, const Scale& scale) {
+    const double radius = rect.height() / 2.0, dot = 0.3 * rect.height();
+    box(painter, rect, TickGround, state.enabled ? colour::Edge : colour::Edge3, scale.hairline(), radius);
+    if (!on) return;
+    const QColor ink = state.enabled ? colour::Accent : colour::Disabled;
+    box(painter, QRectF(rect).adjusted(dot, dot, -dot, -dot), ink, ink, 0, radius - dot);
 }
 
 } // namespace zv::forms::draw

@@ -41,6 +41,8 @@ void arrow(QPainter& painter, const QRectF& rect, Qt::ArrowType type, const QCol
 
 void tickBox(QPainter& painter, const QRect& rect, Qt::CheckState tick, const State& state, const Scale& scale);
 
+void roundTick(QPainter& painter, const QRect& rect, bool on, const State& state, const Scale& scale);
+
 /// How a text is set. lines: 1 for one line cut with an ellipsis, 0 for as many as fit. pitch: pixels from line to
 /// line, 0 for the font's own.
 struct Setting {

@@ -93,9 +93,7 @@ void LookStyle::drawItem(const QStyleOption& option, QPainter& painter, const QW
 
 bool LookStyle::drawHeader(ControlElement element, const QStyleOption& option, QPainter& painter) const {
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(&option);
-    // Headings that can be sorted are those of the toolkit's own dialogs.
-    const bool plain = header && header->icon.isNull() && header->sortIndicator == QStyleOptionHeader::None;
-    if ((element == CE_Header || element == CE_HeaderLabel) && !plain) return false;
+    if ((element == CE_Header || element == CE_HeaderLabel) && !(header && header->icon.isNull())) return false;
     const QRect& r = option.rect;
     const int line = scale_.hairline();
     if (element != CE_HeaderLabel) {
@@ -110,6 +108,12 @@ bool LookStyle::drawHeader(ControlElement element, const QStyleOption& option, Q
         setting.font.setBold(true);
         const int inset = element == CE_Header ? scale_.px(CellInset) : 0; // else its caller has seen to it
         draw::text(painter, r.adjusted(inset, 0, -inset / 2, 0), header->text, setting);
+        // Rows that can be sorted are those of the toolkit's own dialogs.
+        if (header->sortIndicator != QStyleOptionHeader::None) {
+            const bool up = header->sortIndicator == QStyleOptionHeader::SortUp;
+            const QRectF place(r.right() - r.height(), r.top(), r.height(), r.height());
+            draw::arrow(painter, place, up ? Qt::UpArrow : Qt::DownArrow, colour::Navy, scale_.px(120));
+        }
     }
     return true;
 }
