@@ -58,6 +58,16 @@ bool staysApart(char32_t character) {
     return true;
 }
 
+/// The collation keeps the sharp s and a double s apart, full case folding does not: a character of private use, which
+/// folds into itself, stands for the sharp s of both cases.
+std::string withoutSharpS(std::string_view text) {
+    std::string plain(text);
+    for (const std::string_view sharp : {"\xC3\x9F", "\xE1\xBA\x9E"})
+        for (std::size_t at = plain.find(sharp); at != std::string::npos; at = plain.find(sharp, at))
+            plain.replace(at, sharp.size(), "\xEE\x80\xA0");
+    return plain;
+}
+
 struct ApartTable {
     std::array<bool, kLatinEnd> latin{};
     std::array<bool, kPunctuationEnd - kPunctuationFirst> punctuation{};
@@ -121,10 +131,11 @@ std::string_view foldText(std::string_view text, std::string& buffer) {
         lowerAscii(text, buffer);
         return buffer;
     }
+    const std::string plain = withoutSharpS(text);
     buffer.clear();
     UErrorCode status = U_ZERO_ERROR;
-    icu::StringByteSink<std::string> sink(&buffer, length(text));
-    folding().normalizeUTF8(0, icu::StringPiece(text.data(), length(text)), sink, nullptr, status);
+    icu::StringByteSink<std::string> sink(&buffer, length(plain));
+    folding().normalizeUTF8(0, icu::StringPiece(plain.data(), length(plain)), sink, nullptr, status);
     check(status);
     return buffer;
 }

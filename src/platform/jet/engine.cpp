@@ -67,6 +67,19 @@ void requireAlone(SQLite::Database& connection) {
     if (result == SQLITE_OK) connection.exec("COMMIT");
 }
 
+/// Error 3049 unless the copy can be opened and has all rows: the caller will remove the original.
+void requireWhole(const QString& copy, Database& original, const std::vector<TableDef>& tables) {
+    // SQLite does not report that it could not end the copy's own journal.
+    if (isThere(copy + u"-journal"_s)) throw RuntimeError(3049);
+    Database made(copy, tables);
+    for (const TableDef& table : tables) {
+        if (!original.findTable(table.name.toStdString())) continue;
+        const std::string count = "SELECT count(*) FROM " + quotedName(table.name.toStdString());
+        if (made.connection().execAndGet(count).getInt64() != original.connection().execAndGet(count).getInt64())
+            throw RuntimeError(3049);
+    }
+}
+
 } // namespace
 
 DBEngine::DBEngine(std::vector<TableDef> tables) : tables_(std::move(tables)) {}
@@ -106,6 +119,7 @@ void DBEngine::CompactDatabase(const QString& source, const QString& destination
         SQLite::Statement vacuum(database.connection(), "VACUUM INTO ?1");
         vacuum.bind(1, copy.path().toStdString());
         vacuum.exec();
+        requireWhole(copy.path(), database, tables_);
     });
     copy.keepAs(to);
 }
