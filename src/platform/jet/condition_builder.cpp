@@ -153,8 +153,7 @@ Condition ConditionBuilder::finish() {
     if (mismatch_) throw RuntimeError(3464);
     for (NumberSet& set : condition_.sets) {
         std::ranges::sort(set.numbers);
-        const auto repeated = std::ranges::unique(set.numbers);
-        set.numbers.erase(repeated.begin(), repeated.end());
+        set.numbers.erase(std::unique(set.numbers.begin(), set.numbers.end()), set.numbers.end());
     }
     return std::move(condition_);
 }
