@@ -23,6 +23,7 @@ Desk::Desk() : boxes(fail), files(fail) {
 
 Desk::~Desk() {
     hands.reset();
+    QApplication::setStyle(u"fusion"_s); // the program's own style looks at the program's scale
     program.reset();
     boxes.checkAllShown();
 }

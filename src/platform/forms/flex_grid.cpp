@@ -66,7 +66,10 @@ FlexGrid::FlexGrid(QWidget* parent) : Control(parent) {
 
 void FlexGrid::setRows(int rows) {
     if (rows < 0) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
-    if (rows == 0) fixed_ = 0;
+    if (rows == 0) {
+        fixed_ = 0;
+        for (int col = 0; col < Cols(); ++col) delete takeHorizontalHeaderItem(col);
+    }
     rows_ = rows;
     heights_.resize(std::size_t(rows), -1);
     row_ = std::min(row_, std::max(0, rows - 1));
@@ -170,7 +173,8 @@ void FlexGrid::setColWidth(int col, int twips) {
 }
 
 int FlexGrid::RowHeight(int row) const {
-    const int set = heights_.at(std::size_t(row));
+    if (row < 0 || row >= rows_) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
+    const int set = heights_[std::size_t(row)];
     return std::max(minHeight_, set < 0 ? 240 : set);
 }
 
@@ -237,7 +241,10 @@ void FlexGrid::wheelEvent(QWheelEvent* event) {
         QTableWidget::wheelEvent(event);
         return;
     }
-    const int steps = event->angleDelta().y() / 120;
+    // A fine wheel turns in parts of a step.
+    turned_ += event->angleDelta().y();
+    const int steps = turned_ / 120;
+    turned_ -= steps * 120;
     event->accept();
     if (steps != 0)
         fire([this, steps] {

@@ -16,7 +16,8 @@ class TextBox : public Control<QLineEdit> {
     std::function<bool(QChar)> KeyPress;
 
     QString Text() const { return text(); }
-    void setText(const QString& text) { QLineEdit::setText(text); }
+    /// A new text is shown from its head.
+    void setText(const QString& text);
     void setBackColor(const QColor& colour);
     QColor BackColor() const { return palette().color(QPalette::Base); }
     /// A locked box is readable and can be clicked, but takes no text and is no stop of the tab key.
