@@ -2,6 +2,7 @@
 
 #include "platform/forms/look_style.h"
 #include <QApplication>
+#include <QTest>
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace zv::test {
@@ -22,10 +23,15 @@ Desk::Desk() : boxes(fail), files(fail) {
 }
 
 Desk::~Desk() {
-    hands.reset();
-    QApplication::setStyle(u"fusion"_s); // the program's own style looks at the program's scale
-    program.reset();
+    stop();
     boxes.checkAllShown();
+}
+
+// The look reads the program's scale.
+void Desk::stop() {
+    hands.reset();
+    if (program) QApplication::setStyle(u"fusion"_s);
+    program.reset();
 }
 
 void Desk::put(const Rows& rows) {
@@ -43,6 +49,7 @@ void Desk::start(QSize size) {
     program->window.resize(size);
     ASSERT_TRUE(program->window.Load(folder()));
     program->window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program->window)); // or no box gains the focus
     hands->enter();
 }
 
