@@ -101,11 +101,15 @@ TEST_P(Page, FitsPicturesIntoTheirRows) {
     EXPECT_EQ(place(2), u"none"_s);
     EXPECT_EQ(place(3), u"none"_s);
     EXPECT_EQ(place(4), u"none"_s) << "of the next page";
-    for (const int row : {0, 1}) {
-        const QRect cell = grid().visualItemRect(grid().item(row, 0)).translated(
-            grid().viewport()->mapTo(hands->screen(), QPoint()));
-        const QRect box = picture(row).geometry();
-        EXPECT_TRUE(cell.top() <= box.top() && box.bottom() < cell.bottom()) << "beside its record";
+    for (const QSize& window : {QSize(1920, 1080), QSize(2560, 1440), QSize(1100, 760)}) {
+        program->window.resize(window);
+        for (const int row : {0, 1}) {
+            const int top = grid().viewport()->mapTo(hands->screen(), QPoint(0, grid().rowViewportPosition(row))).y();
+            const QRect box = picture(row).geometry();
+            EXPECT_TRUE(top <= box.top() && box.bottom() < top + grid().rowHeight(row))
+                << "not beside its record: " << box.top() << " to " << box.bottom() << " for " << top << " and "
+                << grid().rowHeight(row);
+        }
     }
     pages().setValue(2);
     EXPECT_EQ(place(0), u"195 945 1485 495"_s);

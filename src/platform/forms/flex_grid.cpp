@@ -197,7 +197,8 @@ void FlexGrid::RemoveItem(int row) {
 
 void FlexGrid::Clear() { clear(); }
 
-// Edges are rounded, not sizes, so that rows and the pictures beside them never drift apart.
+// Edges are rounded where they stand on the screen, not sizes, and the frame is part of the heading: so rows and the
+// pictures beside them never drift apart.
 void FlexGrid::layoutSizes() {
     if (!scale() || laying_) return;
     laying_ = true;
@@ -209,8 +210,12 @@ void FlexGrid::layoutSizes() {
         left += width;
     }
     const int heading = fixed_ ? RowHeight(0) : 0;
-    if (fixed_) horizontalHeader()->setFixedHeight(scale()->px(heading));
-    int top = heading;
+    const int headingPixels = scale()->px(Top() + heading) - scale()->px(Top()) - frameWidth();
+    if (fixed_ && horizontalHeader()->height() != headingPixels) {
+        horizontalHeader()->setFixedHeight(headingPixels);
+        updateGeometries(); // or the rows stay where they were until something else moves them
+    }
+    int top = Top() + heading;
     for (int row = fixed_; row < rows_; ++row) {
         const int height = RowHeight(row);
         verticalHeader()->resizeSection(row - fixed_, scale()->px(top + height) - scale()->px(top));

@@ -115,6 +115,7 @@ TEST_F(Boxes, KeepNotesToTheLetterUntilTheyAreEdited) {
               2);
     EXPECT_EQ(memo->Text(), u"one\r\ntwo\t"_s + blank + u"x\r\n"_s);
     memo->undo();
+    memo->undo();
     EXPECT_EQ(memo->Text(), u"one\ntwo\t"_s + blank) << "as nobody had edited it";
 }
 

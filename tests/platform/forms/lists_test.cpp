@@ -22,13 +22,13 @@ class Lists : public Bench {
 template <class C>
 class BothLists : public Lists {
   protected:
-    C* list = shown<C>(u"Lista"_s, {240, 240, 3000, 1200});
+    C* rows = shown<C>(u"Lista"_s, {240, 240, 3000, 1200});
 };
 using ListKinds = ::testing::Types<Combo, ListBox>;
 TYPED_TEST_SUITE(BothLists, ListKinds);
 
 TYPED_TEST(BothLists, ChooseARowOnlyWhenAsked) {
-    auto* list = this->list;
+    auto* list = this->rows;
     list->Click = this->counted();
     EXPECT_EQ(this->firedBy([&] {
                   for (const QString& row : {u"a"_s, u"b"_s, u"c"_s}) list->AddItem(row);

@@ -140,7 +140,7 @@ TEST(Dialogs, LetAFileBeChosen) {
                 EXPECT_EQ(shown.windowTitle(), u"Insert Image"_s);
                 EXPECT_EQ(shown.nameFilters(), QStringList({u"Images (*.jpg *.gif *.bmp)"_s, u"All files (*)"_s}));
                 EXPECT_EQ(shown.selectedFiles(), QStringList{path});
-                taken ? shown.accept() : shown.reject();
+                static_cast<QDialog&>(shown).done(taken ? QDialog::Accepted : QDialog::Rejected);
             });
         EXPECT_EQ(chosen, taken ? path : QString());
     }
