@@ -155,7 +155,8 @@ TEST_P(Page, TurnsByTheWheelAndNeverScrolls) {
     // The row that says that more follow overflows the grid.
     for (const int row : {19, 20, 0}) {
         const QPoint middle = grid().visualItemRect(grid().item(row, 0)).center();
-        QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, {middle.x(), std::min(middle.y(), grid().viewport()->height() - 2)});
+        QTest::mouseClick(grid().viewport(), Qt::LeftButton, {},
+                          {middle.x(), std::min(middle.y(), grid().viewport()->height() - 2)});
         QTest::keyClick(&grid(), Qt::Key_Down);
         QTest::keyClick(&grid(), Qt::Key_End);
         EXPECT_EQ(grid().rowViewportPosition(0), 0) << row;

@@ -36,26 +36,29 @@ TEST_F(PrintButton, PrintsASelectionAsItIsFilteredAndOrdered) {
     open();
     hands->tick({u"Name"_s, u"Surname"_s, u"Date 1"_s, u"Notes"_s, u"Image"_s}); // ticked, not listed
     print();
-    EXPECT_EQ(operations().join(u'\n').toStdString(), QStringList({
-                                          u"page 1"_s,
-                                          u"text 5150 440 8 8388608 '- Zarvelia -'"_s,
-                                          u"text 10096 440 8 0 '- 1 -'"_s,
-                                          u"text 904 1440 14 bold 8388608 ''Composer''"_s,
-                                          u"text 904 1840 8 0 'Selection:   '"_s,
-                                          u"text 2204 1840 9 8388608 '/ 3 R / 6 F / 1 Fl /'"_s,
-                                          u"text 904 2040 8 0 'Filters:   '"_s,
-                                          u"text 2004 2040 9 8388608 '/ Surname Does not contain 'Man' /'"_s,
-                                          u"text 904 2240 8 0 'Order:   '"_s,
-                                          u"text 1804 2240 9 8388608 '/ Surname / Ascending /'"_s,
-                                          u"text 904 2440 8 0 'Print:   '"_s,
-                                          u"text 1804 2440 9 8388608 '( 5 F ) '"_s,
-                                          u"text 2604 2440 9 8388608 '/ Image / Name / Surname / Date 1 / Notes /'"_s,
-                                          u"text 904 3240 9 0 '1- /  -  /  Ruiz  /  -  /  -  /'"_s,
-                                          u"text 904 3640 9 0 '2- /  Eva  /  Sol  /  1700  /  -  /'"_s,
-                                          u"picture 904 4040 1191 397"_s,
-                                          u"text 2295 4040 9 0 '3- /  Ana  /  Vega  /  1685  /  First  second  /'"_s,
-                                          u"end"_s,
-                                      }).join(u'\n').toStdString());
+    EXPECT_EQ(operations().join(u'\n').toStdString(),
+              QStringList({
+                              u"page 1"_s,
+                              u"text 5150 440 8 8388608 '- Zarvelia -'"_s,
+                              u"text 10096 440 8 0 '- 1 -'"_s,
+                              u"text 904 1440 14 bold 8388608 ''Composer''"_s,
+                              u"text 904 1840 8 0 'Selection:   '"_s,
+                              u"text 2204 1840 9 8388608 '/ 3 R / 6 F / 1 Fl /'"_s,
+                              u"text 904 2040 8 0 'Filters:   '"_s,
+                              u"text 2004 2040 9 8388608 '/ Surname Does not contain 'Man' /'"_s,
+                              u"text 904 2240 8 0 'Order:   '"_s,
+                              u"text 1804 2240 9 8388608 '/ Surname / Ascending /'"_s,
+                              u"text 904 2440 8 0 'Print:   '"_s,
+                              u"text 1804 2440 9 8388608 '( 5 F ) '"_s,
+                              u"text 2604 2440 9 8388608 '/ Image / Name / Surname / Date 1 / Notes /'"_s,
+                              u"text 904 3240 9 0 '1- /  -  /  Ruiz  /  -  /  -  /'"_s,
+                              u"text 904 3640 9 0 '2- /  Eva  /  Sol  /  1700  /  -  /'"_s,
+                              u"picture 904 4040 1191 397"_s,
+                              u"text 2295 4040 9 0 '3- /  Ana  /  Vega  /  1685  /  First  second  /'"_s,
+                              u"end"_s,
+                          })
+                  .join(u'\n')
+                  .toStdString());
     EXPECT_EQ(hands->get<forms::ProgressBar>(u"ProgressBar"_s).value(), 0);
     EXPECT_EQ(grid().Rows(), 0) << "a print lists nothing";
 }
@@ -98,7 +101,8 @@ TEST_F(PrintButton, PrintsTheHeadingsOfAnEmptySelection) {
     open();
     hands->tick({u"Image"_s});
     print();
-    EXPECT_EQ(operations().mid(operations().size() - 2), QStringList({u"text 2604 2240 9 8388608 '/ Image /'"_s, u"end"_s}));
+    EXPECT_EQ(operations().mid(operations().size() - 2),
+              QStringList({u"text 2604 2240 9 8388608 '/ Image /'"_s, u"end"_s}));
     EXPECT_EQ(hands->get<forms::ProgressBar>(u"ProgressBar"_s).value(), 0);
 }
 

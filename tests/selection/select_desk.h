@@ -86,7 +86,8 @@ class SelectDesk : public Desk {
             u"Records "_s + hands->text(u"LabNumRegTotal"_s) + u", filters "_s + hands->text(u"LabNumFiltros"_s) +
                 u", accepted "_s + hands->text(u"LabNumReg"_s) + u" by "_s + hands->text(u"LabNumRegFiltros"_s),
             u"Enabled "_s + enabled.join(u' '),
-        }.join(u'\n');
+        }
+            .join(u'\n');
     }
     /// The same with the member's captions for FIRST, TEXT and NUMBER.
     void expectState(const QStringList& lines) {

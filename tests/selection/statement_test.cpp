@@ -53,8 +53,7 @@ TEST_F(SelectComposer, OpensParenthesesOnTheLeft) {
     hands->click(u"BtnO"_s);
     add(u"Date 2"_s, u"Smaller than"_s, u"1800"_s);
     EXPECT_EQ(selection().OpcionSQL, u"((Fecha1 > 1700 AND Notas LIKE '*opera*') OR Fecha2 < 1800)"_s);
-    const QString words =
-        u"((Date 1 Bigger than '1700' AND Notes Contains 'opera')  OR Date 2 Smaller than '1800') "_s;
+    const QString words = u"((Date 1 Bigger than '1700' AND Notes Contains 'opera')  OR Date 2 Smaller than '1800') "_s;
     EXPECT_EQ(selection().ValorFiltro, words);
     order(u"Date 1"_s, u"Descending"_s);
     accept();

@@ -21,7 +21,8 @@ class Select : public test::SelectDesk, public ::testing::WithParamInterface<tes
         open();
     }
     void expectUntouched() {
-        expectState({NoValue, u"Order FIELD + | Historical"_s, u"Rows "_s, u"Text [] tip []"_s, Untouched, IdleButtons});
+        expectState(
+            {NoValue, u"Order FIELD + | Historical"_s, u"Rows "_s, u"Text [] tip []"_s, Untouched, IdleButtons});
     }
 };
 
@@ -30,8 +31,10 @@ TEST_P(Select, GoesFromStateToStateAndComesBackToThem) {
     const QString fresh = program->store.memory.dump();
 
     hands->click(u"BtnNueva"_s);
-    const QStringList composing = {ValueHere, u"Order FIELD + | Historical"_s, u"Rows "_s, u"Text [] tip []"_s, Untouched,
-                                   u"Enabled BtnNueva BtnTodo BtnAnadir ComboCampo ComboCriterio TxtValFiltro"_s};
+    const QStringList composing = {
+        ValueHere,  u"Order FIELD + | Historical"_s,
+        u"Rows "_s, u"Text [] tip []"_s,
+        Untouched,  u"Enabled BtnNueva BtnTodo BtnAnadir ComboCampo ComboCriterio TxtValFiltro"_s};
     expectState(composing);
     hands->click(u"BtnNueva"_s);
     expectState(composing);

@@ -11,8 +11,8 @@ namespace zv::test {
 
 struct Member {
     store::Kind kind;
-    QString first;               ///< caption of the first field
-    QString text, textColumn;    ///< caption and column of the identifier
+    QString first;                ///< caption of the first field
+    QString text, textColumn;     ///< caption and column of the identifier
     QString number, numberColumn; ///< the same of a year
 
     const store::KindInfo& info() const { return store::info(kind); }

@@ -70,7 +70,7 @@ class FlexGrid : public Control<QTableWidget> {
     int row_ = 0, col_ = 0;
     int defaultWidth_ = 960, minHeight_ = 240;
     std::vector<int> widths_, heights_; ///< twips
-    int turned_ = 0; ///< of the wheel since the last whole step, in eighths of a degree
+    int turned_ = 0;                    ///< of the wheel since the last whole step, in eighths of a degree
     bool laying_ = false;
 };
 

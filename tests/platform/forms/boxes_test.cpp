@@ -1,4 +1,5 @@
-// Boxes to type in: when they tell of a change, what they keep of a text, what focus does; and the tips of all controls.
+// Boxes to type in: when they tell of a change, what they keep of a text, what focus does; and the tips of all
+// controls.
 #include "bench_form.h"
 #include "platform/forms/text_box.h"
 #include <QHelpEvent>
@@ -86,14 +87,14 @@ TEST_F(Boxes, KeepTheSelectionThatTheClickGave) {
 TEST_F(Boxes, DoNotTakeTheReturnOfTheWindowForFocus) {
     box->GotFocus = memo->GotFocus = counted();
     for (QWidget* widget : {static_cast<QWidget*>(box), static_cast<QWidget*>(memo)})
-        EXPECT_EQ(firedBy([&] {
-                      for (const auto reason :
-                           {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason})
-                          focusEvent(*widget, reason);
-                      focusEvent(*widget, Qt::TabFocusReason);
-                      focusEvent(*widget, Qt::OtherFocusReason);
-                  }),
-                  2);
+        EXPECT_EQ(
+            firedBy([&] {
+                for (const auto reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason})
+                    focusEvent(*widget, reason);
+                focusEvent(*widget, Qt::TabFocusReason);
+                focusEvent(*widget, Qt::OtherFocusReason);
+            }),
+            2);
 }
 
 TEST_F(Boxes, KeepNotesToTheLetterUntilTheyAreEdited) {

@@ -10,9 +10,9 @@ TEST(ScaleOfTheWindow, GrowsInQuarters) {
         QSize client;
         double scale;
     };
-    for (const Case& c : {Case{{1100, 760}, 1.0}, Case{{1280, 960}, 1.5}, Case{{1920, 1080}, 1.75},
-                          Case{{2560, 1440}, 2.25}, Case{{3840, 2160}, 3.0}, Case{{712, 626}, 1.0},
-                          Case{{320, 200}, 1.0}, Case{{9000, 9000}, 3.0}})
+    for (const Case& c :
+         {Case{{1100, 760}, 1.0}, Case{{1280, 960}, 1.5}, Case{{1920, 1080}, 1.75}, Case{{2560, 1440}, 2.25},
+          Case{{3840, 2160}, 3.0}, Case{{712, 626}, 1.0}, Case{{320, 200}, 1.0}, Case{{9000, 9000}, 3.0}})
         EXPECT_EQ(Scale::forClient(c.client), c.scale) << c.client.width();
     struct Lines {
         double scale;
@@ -26,9 +26,9 @@ TEST(ScaleOfTheWindow, GrowsInQuarters) {
 
 TEST(ScaleOfTheWindow, RoundsEdgesSoThatNeighboursMeet) {
     const Scale scale(1.25);
-    EXPECT_EQ(scale.px(315), 26);  // 26.25
-    EXPECT_EQ(scale.px(6.0), 1);   // 0.5 is rounded up
-    EXPECT_EQ(scale.px(-6.0), 0);  // on either side of 0
+    EXPECT_EQ(scale.px(315), 26);                                           // 26.25
+    EXPECT_EQ(scale.px(6.0), 1);                                            // 0.5 is rounded up
+    EXPECT_EQ(scale.px(-6.0), 0);                                           // on either side of 0
     EXPECT_EQ(scale.rect({9885, 150, 240, 6300}), QRect(824, 13, 20, 525)); // 823.75 to 843.75, 12.5 to 537.5
     for (const double s : {1.0, 1.25, 1.5, 1.75, 2.0, 2.25, 2.5, 2.75, 3.0})
         for (int left = 0; left < 9000; left += 307) {

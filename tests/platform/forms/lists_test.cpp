@@ -31,10 +31,10 @@ TYPED_TEST(BothLists, ChooseARowOnlyWhenAsked) {
     auto* list = this->rows;
     list->Click = this->counted();
     EXPECT_EQ(this->firedBy([&] {
-                  for (const QString& row : {u"a"_s, u"b"_s, u"c"_s}) list->AddItem(row);
-                  list->setFocus(Qt::TabFocusReason);
-                  list->clearFocus();
-              }),
+        for (const QString& row : {u"a"_s, u"b"_s, u"c"_s}) list->AddItem(row);
+        list->setFocus(Qt::TabFocusReason);
+        list->clearFocus();
+    }),
               0);
     EXPECT_EQ(this->chosen(*list), u"-1 "_s);
     EXPECT_EQ(this->firedBy([&] { list->setListIndex(1); }), 1);
@@ -96,7 +96,8 @@ TEST_F(Lists, TicksTurnByAClickAnywhereInTheRow) {
     for (const QString& row : {u"Name"_s, u"Surname"_s, u"Image"_s}) list->AddItem(row);
     EXPECT_EQ(list->SelCount(), 0);
     const QRect row = list->visualItemRect(list->item(1));
-    for (const QPoint& at : {row.center(), QPoint(row.left() + 8, row.center().y()), QPoint(row.right() - 4, row.center().y())}) {
+    for (const QPoint& at :
+         {row.center(), QPoint(row.left() + 8, row.center().y()), QPoint(row.right() - 4, row.center().y())}) {
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
         EXPECT_TRUE(list->Selected(1));
         EXPECT_EQ(list->SelCount(), 1);

@@ -101,11 +101,13 @@ TEST(Dialogs, AskInTheButtonsOfTheStyle) {
     QtMessageBoxes boxes;
     for (const Case& c : {
              Case{box::Critical, QMessageBox::Ok, QMessageBox::Critical, QMessageBox::Ok, box::Ok},
-             Case{box::OkCancel, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Question, QMessageBox::Ok, box::Cancel},
+             Case{box::OkCancel, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Question, QMessageBox::Ok,
+                  box::Cancel},
              Case{box::YesNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::Question, QMessageBox::Yes, 0},
              Case{box::Warning, QMessageBox::Ok, QMessageBox::Warning, QMessageBox::Ok, box::Ok},
              Case{box::Information, QMessageBox::Ok, QMessageBox::Information, QMessageBox::Ok, box::Ok},
-             Case{box::YesNoInformation, QMessageBox::Yes | QMessageBox::No, QMessageBox::Information, QMessageBox::Yes, 0},
+             Case{box::YesNoInformation, QMessageBox::Yes | QMessageBox::No, QMessageBox::Information, QMessageBox::Yes,
+                  0},
          }) {
         const int answer = inFront<QMessageBox>([&] { return boxes.MsgBox(u"<b>One</b>\rtwo"_s, c.style); },
                                                 [&](QMessageBox& shown) {
