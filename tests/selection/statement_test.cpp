@@ -154,7 +154,7 @@ TEST_P(SelectRows, RefusesAFilterWithoutAValueInSilence) {
     EXPECT_EQ(selection().OpcionSQL, m.textColumn + u" = ' x '"_s);
     hands->click(u"BtnY"_s);
     hands->type(u"TxtValFiltro"_s, QString(200, u'9'));
-    EXPECT_EQ(hands->text(u"TxtValFiltro"_s).size(), m.info().form == 1 ? 50 : 75);
+    EXPECT_EQ(hands->text(u"TxtValFiltro"_s).size(), m.info().valueLimit);
 }
 
 INSTANTIATE_TEST_SUITE_P(Members, SelectRows, ::testing::ValuesIn(test::members()), test::memberName);

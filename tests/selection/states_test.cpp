@@ -80,7 +80,7 @@ TEST_P(Select, GoesFromStateToStateAndComesBackToThem) {
                                   IdleButtons};
     expectState(accepted);
     EXPECT_EQ(ids(), u"6 4 1 2"_s);
-    const int row = m.info().form == 1 ? 2 : 3;
+    const int row = hands->get<forms::Combo>(u"ComboCampoOrden"_s).findText(m.number);
     EXPECT_EQ(changesSince(before),
               QStringList({u"ContSel"_s + m.table() + u" = 4"_s, u"ContFil"_s + m.table() + u" = 2"_s,
                            nameOf("MemoSel", "NT = 2"), nameOf("MemoSel", "OpcionSQL = \"\""),
