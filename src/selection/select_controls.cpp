@@ -33,6 +33,7 @@ SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QStri
     LabOpcionSQL = add<Memo>(u"LabOpcionSQL"_s, {3555, 5085, 6315, 1080});
     LabOpcionSQL->setType(type::G, false);
     LabOpcionSQL->setLocked(true);
+    setOpenLook(LabOpcionSQL);
     LabOpcionSQL->setToolTipText(u"Filters"_s);
     addOrderFrame();
     BtnAceptar = button(u"BtnAceptar"_s, u"Accept"_s, u"Accept Selection"_s, {8700, 7200, 1170, 420},

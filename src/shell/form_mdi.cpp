@@ -2,6 +2,7 @@
 
 #include "platform/base/files.h"
 #include "platform/forms/decoration.h"
+#include "platform/forms/look_style.h"
 #include <QCloseEvent>
 #include <QPainter>
 
@@ -41,6 +42,7 @@ void FormMdi::Form_Resize() {
     const double fitting = forms::Scale::forClient(size());
     if (fitting != scale_.value()) {
         scale_.set(fitting);
+        forms::LookStyle::rescale(*this);
         solapas_->applyScale();
     }
     backdrop_ = {};

@@ -158,7 +158,8 @@ void ListBox::focusInEvent(QFocusEvent* event) {
 
 CheckList::CheckList(QWidget* parent) : Control(parent) {
     setRole(this, Role::List);
-    setProperty("zvSlim", true);
+    setSlim(this);
+    forms::setRowHeight(this, 225);
     setUniformItemSizes(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -189,7 +190,6 @@ void CheckList::AddItem(const QString& text) {
 
 void CheckList::applyScale(const Scale& scale) {
     Placed::applyScale(scale);
-    for (int row = 0; row < count(); ++row) item(row)->setSizeHint({0, scale.px(225)});
     doItemsLayout();
 }
 

@@ -158,7 +158,7 @@ void FlexGrid::setCellBackColor(const QColor& colour) { cell(row_, col_)->setBac
 void FlexGrid::setCellAlignment(Qt::Alignment alignment) { cell(row_, col_)->setTextAlignment(alignment); }
 
 int FlexGrid::ColWidth(int col) const {
-    check(rows_ ? 0 : -1, col);
+    if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
     const int set = widths_[std::size_t(col)];
     return set < 0 ? defaultWidth_ : set;
 }

@@ -51,7 +51,7 @@ void LookStyle::drawFrame(const QStyleOption& option, QPainter& painter, const Q
 
 QRect LookStyle::itemRect(SubElement element, const QStyleOption& option, const QWidget*) const {
     const QStyleOptionViewItem& item = viewItem(option);
-    const int inset = scale_.px(CellInset), end = scale_.px(CellInset / 2);
+    const int inset = scale_.px(CellInset), end = scale_.px(CellInset / 2.0);
     const bool ticked = item.features & QStyleOptionViewItem::HasCheckIndicator;
     const int size = scale_.px(TickSize);
     const QRect& r = item.rect;

@@ -41,6 +41,20 @@ std::string columnDefinition(const ColumnDef& column) {
     }
 }
 
+std::string tableDefinition(const TableDef& table) {
+    std::string columns;
+    for (const ColumnDef& column : table.columns) {
+        if (!columns.empty()) columns += ", ";
+        columns += columnDefinition(column);
+    }
+    return "CREATE TABLE " + quotedName(table.name.toStdString()) + " (" + columns + ")";
+}
+
+std::string indexDefinition(const std::string& table, const std::string& column) {
+    return "CREATE INDEX " + quotedName(table + "_" + column) + " ON " + quotedName(table) + " (" + quotedName(column) +
+           ")";
+}
+
 } // namespace
 
 RuntimeError notACatalogue(const QString& path) {
@@ -79,17 +93,12 @@ void createTables(SQLite::Database& connection, const std::vector<TableDef>& tab
     connection.exec("PRAGMA user_version=" + std::to_string(kFormatVersion));
     for (const TableDef& table : tables) {
         const std::string name = table.name.toStdString();
-        std::string columns;
-        for (const ColumnDef& column : table.columns)
-            columns += (columns.empty() ? "" : ", ") + columnDefinition(column);
-        connection.exec("CREATE TABLE " + quotedName(name) + " (" + columns + ")");
+        connection.exec(tableDefinition(table));
         for (const ColumnDef& column : table.columns) {
             // The index on the key repeats what the table itself is ordered by, but it is far smaller than a table with
             // long notes: rows are counted and their keys listed from it.
             if (column.kind != ColumnKind::Key && !column.indexed) continue;
-            const std::string columnName = column.name.toStdString();
-            connection.exec("CREATE INDEX " + quotedName(name + "_" + columnName) + " ON " + quotedName(name) + " (" +
-                            quotedName(columnName) + ")");
+            connection.exec(indexDefinition(name, column.name.toStdString()));
         }
     }
     transaction.commit();

@@ -52,7 +52,7 @@ ConditionBuilder::Item ConditionBuilder::popCondition() {
 }
 
 void ConditionBuilder::pushCondition(Step step) {
-    items_.push_back({Type::Truth, {}, condition_.steps.size()});
+    items_.push_back({Type::Truth, {}});
     condition_.steps.push_back(step);
 }
 
@@ -97,7 +97,7 @@ void ConditionBuilder::like() {
 
 void ConditionBuilder::negate() {
     Item item = popCondition();
-    item.set = item.required = -1;
+    item.set = item.required = item.tail = -1;
     item.type = Type::Truth;
     condition_.steps.push_back({Step::Kind::Not});
     items_.push_back(item);
@@ -113,26 +113,29 @@ void ConditionBuilder::join(bool isAnd, int mark) {
     const Item right = popCondition();
     Item left = popCondition();
     left.type = Type::Truth;
-    if (!isAnd && mergeSets(left, right)) {
+    // A list of keys mostly stands by itself, but also behind other conditions without parentheses of its own.
+    if (!isAnd && (mergeSets(left.set, right.set) || mergeSets(left.tail, right.set))) {
+        condition_.steps.resize(static_cast<std::size_t>(mark), Step{Step::Kind::Unknown});
         items_.push_back(left);
         return;
     }
     condition_.steps.push_back({isAnd ? Step::Kind::And : Step::Kind::Or});
     condition_.steps[static_cast<std::size_t>(mark)].index = static_cast<int>(condition_.steps.size());
     left.set = -1;
+    left.tail = isAnd ? -1 : right.set;
     left.required = isAnd ? better(left.required, right.required) : -1;
     items_.push_back(left);
 }
 
-bool ConditionBuilder::mergeSets(const Item& left, const Item& right) {
-    if (left.set < 0 || right.set < 0) return false;
-    auto& first = condition_.sets[static_cast<std::size_t>(left.set)];
-    auto& second = condition_.sets[static_cast<std::size_t>(right.set)];
+/// Adds the numbers of a set to another one; false if there are not two sets on one column.
+bool ConditionBuilder::mergeSets(int into, int from) {
+    if (into < 0 || from < 0) return false;
+    auto& first = condition_.sets[static_cast<std::size_t>(into)];
+    auto& second = condition_.sets[static_cast<std::size_t>(from)];
     if (first.column != second.column) return false;
     if (first.numbers.size() < second.numbers.size()) std::swap(first.numbers, second.numbers);
     first.numbers.insert(first.numbers.end(), second.numbers.begin(), second.numbers.end());
     second.numbers = {};
-    condition_.steps.resize(left.firstStep + 1, Step{Step::Kind::Unknown});
     return true;
 }
 
@@ -150,8 +153,7 @@ Condition ConditionBuilder::finish() {
     if (mismatch_) throw RuntimeError(3464);
     for (NumberSet& set : condition_.sets) {
         std::ranges::sort(set.numbers);
-        const auto repeated = std::ranges::unique(set.numbers);
-        set.numbers.erase(repeated.begin(), repeated.end());
+        set.numbers.erase(std::unique(set.numbers.begin(), set.numbers.end()), set.numbers.end());
     }
     return std::move(condition_);
 }

@@ -38,16 +38,16 @@ class ConditionBuilder {
     struct Item {
         Type type;
         Operand value;
-        std::size_t firstStep = 0;
         int set = -1;      ///< the item is this set's test and nothing else
         int required = -1; ///< a set that each row that fits is in
+        int tail = -1;     ///< the last alternative is this set's test: "... OR c = 1"
     };
 
     Item pop();
     Item popCondition();
     void pushCondition(Step step);
     bool pushSetTest(const Item& column, const Item& constant);
-    bool mergeSets(const Item& left, const Item& right);
+    bool mergeSets(int into, int from);
     int better(int first, int second) const;
 
     const Table* table_;

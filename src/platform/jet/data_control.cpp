@@ -22,7 +22,9 @@ jet::Recordset& DataControl::Recordset() {
     return *recordset_;
 }
 
-QString DataControl::boundText(const QString& column) { return Recordset().impl().boundText(column); }
+QString DataControl::boundText(const QString& column) {
+    return recordset_ ? recordset_->impl().boundText(column) : QString();
+}
 
 void DataControl::Close() {
     recordset_.reset();

@@ -24,7 +24,8 @@ class DataControl {
     /// The recordset of the last Refresh. Error 91 without one.
     jet::Recordset& Recordset();
 
-    /// Text of a column in the current row, as a bound control shows it: "" for Null or without a current row.
+    /// Text of a column in the current row, as a bound control shows it: "" for Null, without a current row or without
+    /// a recordset.
     QString boundText(const QString& column);
 
     /// Lets go of the recordset and the file.

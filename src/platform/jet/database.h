@@ -24,7 +24,7 @@ class Database {
   private:
     QString path_;
     bool readOnly_;
-    const std::vector<TableDef>& tables_;
+    std::vector<TableDef> tables_;
     SQLite::Database connection_;
     std::optional<SQLite::Statement> columnsOf_;
 };

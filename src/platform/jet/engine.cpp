@@ -40,6 +40,7 @@ class HalfMadeFile {
             Name(path_, name);
         } catch (const RuntimeError& error) {
             if (error.number() == 58) throw RuntimeError(3204);
+            if (!isThere(path_)) QFile::remove(name); // it has its name, but that is not on the disk
             throw RuntimeError(3026, u"The file '%1' could not be written to the disk."_s.arg(name));
         }
         kept_ = true;

@@ -69,8 +69,7 @@ LikePattern::LikePattern(std::string_view pattern) {
     for (Part& part : parts_) part.literal = folded(part.literal);
     onlyContains_ = parts_.size() == 3 && parts_[0].kind == Kind::AnyRun && parts_[1].kind == Kind::Literal &&
                     parts_[2].kind == Kind::AnyRun;
-    if (onlyContains_) contained_ = parts_[1].literal;
-    containedAscii_ = isAscii(contained_);
+    ascii_ = isAscii(pattern);
 }
 
 void LikePattern::addLiteral(std::string_view text) {
@@ -116,14 +115,14 @@ void LikePattern::readRanges(std::string_view list, std::vector<Range>& ranges) 
 
 bool LikePattern::matches(std::string_view text) const {
     static thread_local std::string buffer;
-    if (!onlyContains_) return matchesFolded(foldText(text, buffer));
-    const bool ascii = isAscii(text);
-    if (ascii && !containedAscii_) return false;
-    if (containedAscii_ && (ascii || foldsApartFromAscii(text))) {
-        lowerAscii(text, buffer);
-        return contains(buffer, contained_);
+    std::string_view folded;
+    if (ascii_ && (isAscii(text) || foldsApartFromAscii(text))) {
+        lowerAscii(text, buffer); // what is beyond ASCII meets wild cards only
+        folded = buffer;
+    } else {
+        folded = foldText(text, buffer);
     }
-    return contains(foldText(text, buffer), contained_);
+    return onlyContains_ ? contains(folded, parts_[1].literal) : matchesFolded(folded);
 }
 
 /// Bytes that a part takes at the head of the rest, kNoMatch if it does not fit there.
@@ -144,7 +143,13 @@ std::size_t LikePattern::lengthAt(const Part& part, std::string_view rest) {
     return listed != part.negated ? length : kNoMatch;
 }
 
-/// Greedy match with one way back: to the latest run, one character further on.
+/// Where a part that follows a run may fit, from there on; kNoMatch if nowhere.
+std::size_t LikePattern::seek(std::size_t part, std::string_view text, std::size_t from) const {
+    const bool literal = part < parts_.size() && parts_[part].kind == Kind::Literal;
+    return literal ? text.find(parts_[part].literal, from) : from;
+}
+
+/// Greedy match with one way back: to the latest run, which then takes more.
 bool LikePattern::matchesFolded(std::string_view text) const {
     std::size_t part = 0;
     std::size_t at = 0;
@@ -153,8 +158,9 @@ bool LikePattern::matchesFolded(std::string_view text) const {
     for (;;) {
         if (part < parts_.size() && parts_[part].kind == Kind::AnyRun) {
             runPart = ++part;
-            runAt = at;
-            continue;
+            if (runPart == parts_.size()) return true;
+            runAt = at = seek(runPart, text, at);
+            if (runAt == kNoMatch) return false;
         }
         const std::size_t length = part < parts_.size() ? lengthAt(parts_[part], text.substr(at)) : kNoMatch;
         if (length != kNoMatch) {
@@ -163,9 +169,8 @@ bool LikePattern::matchesFolded(std::string_view text) const {
         } else if (part == parts_.size() && at == text.size()) {
             return true;
         } else if (runPart != kNoMatch && runAt < text.size()) {
-            if (runPart == parts_.size()) return true;
-            runAt += letterLength(text.substr(runAt));
-            at = runAt;
+            runAt = at = seek(runPart, text, runAt + letterLength(text.substr(runAt)));
+            if (runAt == kNoMatch) return false;
             part = runPart;
         } else {
             return false;

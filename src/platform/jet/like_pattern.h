@@ -31,12 +31,12 @@ class LikePattern {
     std::size_t addList(std::string_view pattern, std::size_t open);
     static void readRanges(std::string_view list, std::vector<Range>& ranges);
     bool matchesFolded(std::string_view text) const;
+    std::size_t seek(std::size_t part, std::string_view text, std::size_t from) const;
     static std::size_t lengthAt(const Part& part, std::string_view rest);
 
     std::vector<Part> parts_;
-    std::string contained_; ///< the literal of a pattern *literal*, folded
-    bool onlyContains_ = false;
-    bool containedAscii_ = false;
+    bool onlyContains_ = false; ///< the pattern is *literal*
+    bool ascii_ = false;
 };
 
 } // namespace zv::jet

@@ -45,7 +45,6 @@ Recordset::Impl::Impl(std::shared_ptr<Database> database, const QString& source)
 
 void Recordset::Impl::stand(int position) {
     position_ = position;
-    visited_ = std::max(visited_, position + 1);
     atEnd_ = removed_ = false;
     row_.reset();
     mode_ = Mode::Reading;
@@ -211,7 +210,6 @@ void Recordset::Impl::insertRow() {
     execute(columns.empty() ? target + " DEFAULT VALUES" : target + " (" + names + ") VALUES (" + marks + ")", columns,
             std::nullopt);
     keys_.append(database_->connection().getLastInsertRowid());
-    ++visited_;
 }
 
 void Recordset::Impl::changeRow() {
@@ -238,7 +236,6 @@ void Recordset::Impl::remove() {
     });
     if (database_->connection().getChanges() == 0) throw RuntimeError(3167);
     keys_.removeAt(position_);
-    --visited_;
     removed_ = true;
     row_.reset();
 }

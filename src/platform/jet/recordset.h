@@ -31,7 +31,7 @@ class Recordset {
     Recordset(std::shared_ptr<Database> database, const QString& source);
     ~Recordset();
 
-    /// Rows visited so far: 0 only without rows, exact after MoveLast; falls with Delete, grows with a new row.
+    /// Rows of the statement, exact at any time; falls with Delete, grows with a new row.
     int RecordCount() const;
     bool EOF_() const;
     void MoveFirst();

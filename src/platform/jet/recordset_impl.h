@@ -13,7 +13,7 @@ class Recordset::Impl {
   public:
     Impl(std::shared_ptr<Database> database, const QString& source);
 
-    int count() const { return visited_; }
+    int count() const { return keys_.size(); }
     bool atEnd() const { return atEnd_; }
     int position() const { return atEnd_ ? -1 : position_; }
 
@@ -54,7 +54,6 @@ class Recordset::Impl {
     Table table_;
     KeyList keys_;
     int position_ = 0;
-    int visited_ = 0;
     bool atEnd_ = false;
     bool removed_ = false; ///< the row at the position was deleted; the following one has its place by now
 

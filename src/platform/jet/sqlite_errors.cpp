@@ -13,7 +13,9 @@ RuntimeError runtimeErrorOf(const SQLite::Exception& failure, const QString& pat
         return RuntimeError(3049, u"Cannot open database '%1'. It may not be a database that your application "
                                   "recognizes, or the file may be corrupt. (%2)"_s.arg(path, why));
     };
-    switch (failure.getErrorCode() & 0xFF) {
+    // An interrupted save that cannot be taken back for want of the right to write cannot be read either.
+    const bool stuck = failure.getExtendedErrorCode() == SQLITE_READONLY_ROLLBACK;
+    switch (stuck ? SQLITE_CANTOPEN : failure.getErrorCode() & 0xFF) {
     case SQLITE_FULL: return RuntimeError(3026);
     case SQLITE_READONLY: return RuntimeError(3027);
     case SQLITE_BUSY:

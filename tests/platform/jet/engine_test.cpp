@@ -123,7 +123,27 @@ TEST_F(EngineTest, waitsForAnotherProgramsLockAndThenGivesUp) {
     EXPECT_EQ(catalogue.texts(kAll, u"Apellidos"_s), QStringList(u"a"_s));
 }
 
-TEST_F(EngineTest, takesBackAnInterruptedSaveAndOtherToolsLogs) {
+TEST_F(EngineTest, takesBackAnInterruptedSave) {
+    sqlite(catalogue.path, "INSERT INTO Compositor (Apellidos, Notas) VALUES ('a', hex(zeroblob(50000)))");
+    sqlite3* other = nullptr;
+    sqlite3_open(catalogue.path.toUtf8().constData(), &other);
+    sqlite3_exec(other, "PRAGMA cache_size=1; BEGIN; UPDATE Compositor SET Apellidos='b', Notas=hex(zeroblob(90000))",
+                 nullptr, nullptr, nullptr);
+    const QString copy = at(u"copy.mdb"_s); // as a loss of power would leave it
+    const QString journal = u"-journal"_s;
+    ASSERT_TRUE(QFile::copy(catalogue.path, copy) && QFile::copy(catalogue.path + journal, copy + journal));
+    sqlite3_close(other);
+    EXPECT_GT(QFile(copy).size(), QFile(catalogue.path).size());
+    DataControl control(catalogue.engine);
+    control.DatabaseName = copy;
+    control.RecordSource = kAll;
+    control.Refresh();
+    EXPECT_EQ(control.boundText(u"Apellidos"_s), u"a"_s);
+    EXPECT_EQ(control.boundText(u"Notas"_s).size(), 100000);
+    EXPECT_EQ(files(), u"copy.mdb DataZV.mdb"_s);
+}
+
+TEST_F(EngineTest, putsAFileWithAnotherToolsLogBackIntoOneFile) {
     sqlite(catalogue.path, "PRAGMA journal_mode=WAL; INSERT INTO Compositor (Apellidos) VALUES ('a')");
     EXPECT_EQ(catalogue.texts(kAll, u"Apellidos"_s), QStringList(u"a"_s));
     EXPECT_EQ(files(), u"DataZV.mdb"_s);
