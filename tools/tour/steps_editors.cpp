@@ -69,7 +69,8 @@ const Composer Twice{u"Josef"_s, u"Haydn"_s, u"1732"_s, {}, u"Entered twice."_s,
 const std::vector<Composer>& composers() {
     static const std::vector<Composer> all = {
         {u"Ludwig van"_s, u"Beethoven"_s, u"1770"_s, u"1827"_s,
-         u"Born in Bonn, from 1792 in Vienna.\r\n\r\nNine symphonies, thirty-two piano sonatas, sixteen string quartets, "
+         u"Born in Bonn, from 1792 in Vienna.\r\n\r\nNine symphonies, thirty-two piano sonatas, sixteen string "
+         u"quartets, "
          "the opera Fidelio and the Missa solemnis.\r\nThe late quartets were written when he could no longer hear "
          "them."_s,
          u"beethoven.bmp"_s},
@@ -131,7 +132,8 @@ void addComposers(Tour& tour) {
 // What is typed on an Add screen, an unsaved picture too, is there when the user comes back.
 void awayAndBack(Tour& tour) {
     const Composer unsaved{
-        u"Fanny"_s, u"Hensel"_s, u"1805"_s, u"1847"_s, u"Songs, a string quartet,\r\npiano pieces."_s, u"schumann.jpg"_s};
+        u"Fanny"_s,       u"Hensel"_s, u"1805"_s, u"1847"_s, u"Songs, a string quartet,\r\npiano pieces."_s,
+        u"schumann.jpg"_s};
     enter(tour, unsaved);
     tour.hands().go(HelpNumber);
     tour.hands().screen(u"FormAyudaGeneral"_s);

@@ -70,11 +70,7 @@ void smallWindow(Tour& tour) {
     resize(tour, {712, 626}, 1.0);
 }
 
-void largeWindow(Tour& tour) {
-    resize(tour, {1920, 1080}, 1.75);
-    tour.photograph(u"22-window-1920x1080-show-edit"_s);
-    tour.hands().go(GroupingListNumber);
-}
+void largeWindow(Tour& tour) { resize(tour, {1920, 1080}, 1.75); }
 
 void hugeWindow(Tour& tour) {
     resize(tour, {3840, 2160}, 3.0);

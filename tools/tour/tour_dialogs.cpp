@@ -27,6 +27,7 @@ int TourBoxes::MsgBox(const QString& text, int style) {
     QTimer::singleShot(0, [&look, answer] {
         auto* shown = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (!shown) qFatal("The box did not open.");
+        QApplication::setActiveWindow(shown);
         look(*shown);
         QTest::mouseClick(shown->button(buttonOf(answer)), Qt::LeftButton);
     });
