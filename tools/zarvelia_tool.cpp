@@ -17,6 +17,10 @@ int makeCatalogue(const QString& folder) {
         std::fprintf(stderr, "%s is no folder.\n", qPrintable(folder));
         return 1;
     }
+    if (!QFileInfo(folder).isWritable()) {
+        std::fprintf(stderr, "%s may not be written to.\n", qPrintable(folder));
+        return 1;
+    }
     const QString file = QDir(folder).filePath(store::DatabaseFile);
     try {
         jet::DBEngine(store::tableDefs()).CreateDatabase(file);

@@ -115,11 +115,6 @@ void Memo::setLocked(bool locked) {
     setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
-void Memo::applyScale(const Scale& scale) {
-    Placed::applyScale(scale);
-    document()->setDocumentMargin(scale.px(60));
-}
-
 void Memo::clearHandlers() { Change = GotFocus = nullptr; }
 
 void Memo::focusInEvent(QFocusEvent* event) {

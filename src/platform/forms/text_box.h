@@ -51,7 +51,6 @@ class Memo : public Control<QPlainTextEdit> {
     bool Locked() const { return isReadOnly(); }
     void selectWhole() { selectAll(); }
 
-    void applyScale(const Scale& scale) override;
     void clearHandlers() override;
 
   protected:

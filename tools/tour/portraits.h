@@ -1,0 +1,17 @@
+// Pictures for the records of the tour: drawn here, so that the tour brings no files along.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+
+namespace zv::tour {
+
+enum class Hair { Short, Bun, Wig, Veil };
+
+/// A silhouette in an oval, 320 by 400 pixels. leftwards: which way it looks.
+QImage portrait(const QColor& ground, Hair hair, bool leftwards);
+
+/// Players on the arcs of a stage, 480 by 270 pixels: a picture that is wider than high.
+QImage stage(const QColor& ground);
+
+} // namespace zv::tour
