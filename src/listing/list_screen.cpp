@@ -130,8 +130,8 @@ void ListScreen::BtnListar_Click() {
     Tabla->setRows(0);
     emptyPictures();
     takeTicks(true);
-    memory().MemoLis.Posicion = 1;
-    memory().MemoLis.Posicion2 = static_cast<qint16>(HScroll->Value());
+    listedMemory().Posicion = 1;
+    listedMemory().Posicion2 = static_cast<qint16>(HScroll->Value());
     VScroll->setEnabled(true);
     EnCalculo = false;
     VScroll_Change();

@@ -148,17 +148,21 @@ QString FlexGrid::TextMatrix(int row, int col) const {
     return found ? found->text() : QString();
 }
 
-void FlexGrid::setText(const QString& text) {
+void FlexGrid::setTextMatrix(int row, int col, const QString& text) {
     // The toolkit draws a carriage return as a blank.
     QString lines = text;
-    cell(row_, col_)->setText(lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n'));
+    cell(row, col)->setText(lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n'));
 }
+
+void FlexGrid::setText(const QString& text) { setTextMatrix(row_, col_, text); }
 
 void FlexGrid::setCellForeColor(const QColor& colour) { cell(row_, col_)->setForeground(colour); }
 
 void FlexGrid::setCellBackColor(const QColor& colour) { cell(row_, col_)->setBackground(colour); }
 
-void FlexGrid::setCellAlignment(Qt::Alignment alignment) { cell(row_, col_)->setTextAlignment(alignment); }
+void FlexGrid::setAlignment(int row, int col, Qt::Alignment alignment) {
+    cell(row, col)->setTextAlignment(alignment);
+}
 
 int FlexGrid::ColWidth(int col) const {
     if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));

@@ -39,9 +39,11 @@ class FlexGrid : public Control<QTableWidget> {
     QString Text() const { return TextMatrix(row_, col_); }
     void setText(const QString& text);
     QString TextMatrix(int row, int col) const;
+    void setTextMatrix(int row, int col, const QString& text);
     void setCellForeColor(const QColor& colour);
     void setCellBackColor(const QColor& colour);
-    void setCellAlignment(Qt::Alignment alignment);
+    void setCellAlignment(Qt::Alignment alignment) { setAlignment(row_, col_, alignment); }
+    void setAlignment(int row, int col, Qt::Alignment alignment);
 
     int ColWidth(int col) const;
     void setColWidth(int col, int twips);

@@ -49,6 +49,10 @@ bool Placed::showTip(QEvent* event) {
     return true;
 }
 
+void chainTabStops(const std::vector<QWidget*>& widgets) {
+    for (std::size_t i = 0; i + 1 < widgets.size(); ++i) QWidget::setTabOrder(widgets[i], widgets[i + 1]);
+}
+
 bool isFocusGain(Qt::FocusReason reason) {
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
 }

@@ -66,6 +66,14 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
 }
 
+void keepOut(TextBox& box, QChar character) {
+    const qsizetype length = box.Text().size();
+    for (qsizetype i = 0; i < length; ++i) {
+        const QString text = box.Text();
+        if (i < text.size() && text[i] == character) box.setText(text.left(i) + text.mid(i + 1));
+    }
+}
+
 Memo::Memo(QWidget* parent) : Control(parent) {
     setRole(this, Role::TextBox);
     setTabChangesFocus(true);

@@ -38,6 +38,9 @@ class TextBox : public Control<QLineEdit> {
     bool pressGaveFocus_ = false;
 };
 
+/// Cuts a character out of a box's text wherever it stands; each cut fires the box's change again.
+void keepOut(TextBox& box, QChar character);
+
 class Memo : public Control<QPlainTextEdit> {
   public:
     explicit Memo(QWidget* parent);
