@@ -2,6 +2,7 @@
 
 #include "platform/base/files.h"
 #include "platform/forms/decoration.h"
+#include "platform/forms/look_style.h"
 #include <QCloseEvent>
 #include <QPainter>
 
@@ -42,6 +43,7 @@ void FormMdi::Form_Resize() {
     if (fitting != scale_.value()) {
         scale_.set(fitting);
         solapas_->applyScale();
+        forms::LookStyle::rescale(*this);
     }
     backdrop_ = {};
     if (loaded_ && !isMinimized()) solapas_->MostrarFormulario(solapas_->VentanaMostrandose);
