@@ -183,6 +183,8 @@ TEST_P(ShowEdit, theBarHoldsAsManyRowsAsItHasNumbers) {
     start();
     if (fatal.empty()) hands->go(showNumber);
     EXPECT_EQ(fatal, std::vector<int>{6});
+    stop();
+    setFatalErrorHandler(nullptr);
 }
 
 } // namespace
