@@ -48,18 +48,20 @@ EditorScreen::EditorScreen(shell::Context& context, QWidget* parent, const QStri
         addButton(u"BtnImagenEliminar"_s, u"Remove"_s, u"Remove Image from the Record"_s, {1290, 2850, 900, 300});
     BtnImagenEliminar->setType(forms::type::S, true);
     BtnImagenEliminar->setVisible(false);
-    addCaptions();
-    addBoxes();
+    const EditorLayout layout = editorLayout(kind);
+    addCaptions(layout);
+    addBoxes(layout);
 }
 
-void EditorScreen::addCaptions() {
-    for (const CaptionPlace& caption : editorLayout(kind_.kind).captions)
+void EditorScreen::addCaptions(const EditorLayout& layout) {
+    for (const CaptionPlace& caption : layout.captions)
         addLabel({}, Role::Caption, caption.text.toString(), caption.rect,
-                 caption.small ? forms::type::S : forms::type::G, true, caption.left ? forms::ToLeft : forms::ToRight);
+                 caption.small ? forms::type::S : forms::type::G, true, caption.left ? forms::ToLeft : forms::ToRight)
+            ->setWordWrap(caption.small);
 }
 
-void EditorScreen::addBoxes() {
-    for (const BoxPlace& place : editorLayout(kind_.kind).boxes) {
+void EditorScreen::addBoxes(const EditorLayout& layout) {
+    for (const BoxPlace& place : layout.boxes) {
         int i = 0;
         while (field(i).control != place.control) ++i;
         Box& made = boxes_[static_cast<std::size_t>(i)];

@@ -35,8 +35,6 @@ class EditorScreen : public shell::Screen {
     const Box& box(int i) const { return boxes_[static_cast<std::size_t>(i)]; }
     int pictureField() const { return fieldCount() - 1; }
 
-    void addCaptions();
-    void addBoxes();
     forms::Button* addButton(const QString& name, const QString& caption, const QString& tip,
                              const forms::TwipsRect& rect);
     /// A caption, heading, unit or value without logic, in a frame or on the screen.
@@ -83,6 +81,8 @@ class EditorScreen : public shell::Screen {
     store::Campos Campos_;
 
   private:
+    void addCaptions(const EditorLayout& layout);
+    void addBoxes(const EditorLayout& layout);
     void emptyIdentifier();
 
     const store::KindInfo& kind_;

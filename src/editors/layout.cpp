@@ -95,19 +95,6 @@ constexpr BoxPlace InstrumentBoxes[] = {line(u"TxtInstrumento", 240),  line(u"Tx
                                         line(u"TxtModelo", 1050),      year(u"TxtSiglo", 1455),
                                         year(u"TxtFecha", 1455, 6210), notes(1860)};
 
-constexpr std::array<CaptionPlace, 6> placeCaptions(QStringView first) {
-    return {caption(first, 240),    caption(u"City", 645),      caption(u"Country", 1050),
-            caption(u"Date", 1455), caption(u"Activity", 1860), caption(u"Notes", 2265)};
-}
-constexpr std::array<BoxPlace, 6> placeBoxes(QStringView first) {
-    return {line(first, 240),        line(u"TxtCiudad", 645),     line(u"TxtPais", 1050),
-            year(u"TxtFecha", 1455), line(u"TxtActividad", 1860), notes(2265)};
-}
-constexpr auto GroupingCaptions = placeCaptions(u"Entity"), EventCaptions = placeCaptions(u"Event"),
-               ScenarioCaptions = placeCaptions(u"Scenario");
-constexpr auto GroupingBoxes = placeBoxes(u"TxtEntidad"), EventBoxes = placeBoxes(u"TxtEvento"),
-               ScenarioBoxes = placeBoxes(u"TxtEscenario");
-
 constexpr CaptionPlace PublicationCaptions[] = {
     caption(u"Title", 240),          caption(u"Author", 645),      caption(u"Format", 1050),
     secondCaption(u"Subject", 1050), caption(u"Id. - ISBN", 1455), caption(u"Publishers", 1860),
@@ -129,32 +116,43 @@ constexpr BoxPlace StationBoxes[] = {line(u"TxtEmisora", 240),
                                      year(u"TxtFecha", 2265),
                                      notes(2670)};
 
-constexpr CaptionPlace InternetCaptions[] = {caption(u"Title", 240),   caption(u"URL", 645),
-                                             caption(u"E-Mail", 1050), caption(u"Subject", 1455),
-                                             caption(u"Date", 1860),   caption(u"Notes", 2265)};
-constexpr BoxPlace InternetBoxes[] = {line(u"TxtTitulo", 240), line(u"TxtUrl", 645),    line(u"TxtEMail", 1050),
-                                      line(u"TxtTema", 1455),  year(u"TxtFecha", 1860), notes(2265)};
+/// A row for each box from the top, the notes last.
+EditorLayout rowsOf(const store::KindInfo& kind) {
+    EditorLayout layout;
+    int top = 240;
+    for (const store::Field& field : kind.fields) {
+        if (field.control.isEmpty()) continue;
+        layout.captions.push_back(caption(field.listed, top));
+        if (field.value == store::Value::Memo)
+            layout.boxes.push_back({field.control, {BoxLeft, top, BoxWidth, 7050 - top}});
+        else
+            layout.boxes.push_back(field.value == store::Value::Year ? year(field.control, top)
+                                                                     : line(field.control, top));
+        top += 405;
+    }
+    return layout;
+}
+
+template <std::size_t Captions, std::size_t Boxes>
+EditorLayout layoutOf(const CaptionPlace (&captions)[Captions], const BoxPlace (&boxes)[Boxes]) {
+    return {{std::begin(captions), std::end(captions)}, {std::begin(boxes), std::end(boxes)}};
+}
 
 } // namespace
 
-EditorLayout editorLayout(Kind kind) {
-    switch (kind) {
+EditorLayout editorLayout(const store::KindInfo& kind) {
+    switch (kind.kind) {
     case Kind::Compositor:
-    case Kind::Director: return {PersonCaptions, PersonBoxes};
-    case Kind::Interprete: return {PerformerCaptions, PerformerBoxes};
-    case Kind::Soporte: return {FormatCaptions, FormatBoxes};
-    case Kind::Instrumento: return {InstrumentCaptions, InstrumentBoxes};
-    case Kind::Agrupacion: return {GroupingCaptions, GroupingBoxes};
-    case Kind::Evento: return {EventCaptions, EventBoxes};
-    case Kind::Escenario: return {ScenarioCaptions, ScenarioBoxes};
-    case Kind::Publicacion: return {PublicationCaptions, PublicationBoxes};
-    case Kind::Emisora: return {StationCaptions, StationBoxes};
-    case Kind::Internet: return {InternetCaptions, InternetBoxes};
-    case Kind::Obra: return {WorkCaptions, WorkBoxes};
-    case Kind::Orquesta: return {OrchestraCaptions, OrchestraBoxes};
-    case Kind::Grabacion: break;
+    case Kind::Director: return layoutOf(PersonCaptions, PersonBoxes);
+    case Kind::Obra: return layoutOf(WorkCaptions, WorkBoxes);
+    case Kind::Orquesta: return layoutOf(OrchestraCaptions, OrchestraBoxes);
+    case Kind::Interprete: return layoutOf(PerformerCaptions, PerformerBoxes);
+    case Kind::Soporte: return layoutOf(FormatCaptions, FormatBoxes);
+    case Kind::Instrumento: return layoutOf(InstrumentCaptions, InstrumentBoxes);
+    case Kind::Publicacion: return layoutOf(PublicationCaptions, PublicationBoxes);
+    case Kind::Emisora: return layoutOf(StationCaptions, StationBoxes);
+    default: return rowsOf(kind);
     }
-    return {};
 }
 
 } // namespace zv::editors

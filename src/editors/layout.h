@@ -19,11 +19,12 @@ struct BoxPlace {
 };
 
 struct EditorLayout {
-    std::span<const CaptionPlace> captions;
-    std::span<const BoxPlace> boxes;
+    std::vector<CaptionPlace> captions;
+    std::vector<BoxPlace> boxes;
 };
 
-/// The layout of a kind; empty for a kind whose editors are not built of rows of boxes.
-EditorLayout editorLayout(store::Kind kind);
+/// The layout of a kind. A kind without one of its own gets a row for each box, captioned as in its list, the notes
+/// last and as high as there is room.
+EditorLayout editorLayout(const store::KindInfo& kind);
 
 } // namespace zv::editors

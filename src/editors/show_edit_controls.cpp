@@ -38,7 +38,7 @@ void ShowEditScreen::addFrame() {
     TxtOrden->Change = [this] { TxtOrden_Change(); };
     TxtOrden->GotFocus = [this] { TxtOrden->selectWhole(); };
     HScroll = add<ScrollBar>(u"HScroll"_s, {150, 1215, 2700, 345}, Frame1);
-    HScroll->setOrientation(Qt::Horizontal);
+    HScroll->setDirection(Qt::Horizontal);
     HScroll->setMin(1);
     HScroll->setMax(1);
     HScroll->Change = [this] { HScroll_Change(); };

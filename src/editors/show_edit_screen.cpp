@@ -7,6 +7,13 @@ namespace zv::editors {
 using namespace Qt::StringLiterals;
 using store::Value;
 
+namespace {
+
+/// What stands for the key while no record is shown.
+constexpr qint32 NoKey = -2;
+
+} // namespace
+
 void ShowEditScreen::Form_Load() {
     LabNumRegEliminados->setCaption(QString::number(memory().ContEli));
     LabNumRegSeleccion->setCaption(QString::number(memory().ContSel));
@@ -31,7 +38,7 @@ void ShowEditScreen::setKey(qint32 key) {
 
 void ShowEditScreen::Carga() {
     Navegable = false;
-    setKey(kind().noKey);
+    setKey(NoKey);
     jet::Recordset& rows = Data().Recordset();
     if (rows.RecordCount() == 0) {
         Limpiar();
@@ -202,7 +209,7 @@ void ShowEditScreen::removeRow() {
         if (of.Posicion != 1) --of.Posicion;
         --of.Cont;
         of.ContSel = rows.RecordCount();
-        rows.setAbsolutePosition(of.Posicion - 1);
+        rows.setAbsolutePosition(std::min<qint32>(of.Posicion, of.ContSel) - 1);
     } else {
         // A filter's last row counts as the table's.
         of.Posicion = 1;

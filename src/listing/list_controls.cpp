@@ -49,7 +49,7 @@ void ListScreen::addGrid() {
     auto* hidden = add<Picture>(u"ImagenTmp"_s, {0, 0, 1005, 1005});
     hidden->setVisible(false);
     VScroll = add<ScrollBar>(u"VScroll"_s, {9885, 150, 240, 6300});
-    VScroll->setOrientation(Qt::Vertical);
+    VScroll->setDirection(Qt::Vertical);
     VScroll->setMin(1);
     VScroll->setMax(32767);
     VScroll->setSingleStep(1);
@@ -78,7 +78,7 @@ void ListScreen::addChoice() {
 void ListScreen::addBars() {
     dress(add<Label>({}, {3960, 6525, 1950, 195}), Role::Heading, u"Expand Rows"_s, type::XS, true, ToLeft);
     HScroll = add<ScrollBar>(u"HScroll"_s, {3960, 6750, 1965, 330});
-    HScroll->setOrientation(Qt::Horizontal);
+    HScroll->setDirection(Qt::Horizontal);
     HScroll->setMin(1);
     HScroll->setMax(20);
     HScroll->setSingleStep(1);

@@ -12,10 +12,10 @@ bool ListScreen::loadPicture(const QString& path, int side, PrintPicture& pictur
     try {
         const forms::PictureData loaded = forms::LoadPicture(path);
         if (loaded.isEmpty()) return false;
-        const double w = loaded.naturalTwips.width(), h = loaded.naturalTwips.height();
+        const QSize size = forms::fitted(loaded.naturalTwips, side);
         picture.Picture = loaded.image;
-        picture.Width = w >= h ? side : toLong(side * w / h);
-        picture.Height = w >= h ? toLong(side * h / w) : side;
+        picture.Width = size.width();
+        picture.Height = size.height();
         return true;
     } catch (const RuntimeError&) {
         return false;
@@ -38,7 +38,10 @@ PrintOrder ListScreen::printOrder() {
     order.CriterioOrden = memory().MemoSel.CriterioOrden;
     order.lastField = static_cast<int>(fields.size()) - 1;
     order.chooseField = [fields](int index) { return fields.value(index); };
-    order.chooseCriterion = [](int index) { return store::OrderCriteria[index].caption.toString(); };
+    order.chooseCriterion = [](int index) {
+        const bool known = index >= 0 && index < static_cast<int>(std::size(store::OrderCriteria));
+        return known ? store::OrderCriteria[index].caption.toString() : QString();
+    };
     return order;
 }
 

@@ -234,7 +234,7 @@ bool ListScreen::calculatePage() {
 
 void ListScreen::placeGrid() {
     const int side = HScroll->Value() * RowUnit;
-    const bool bar = VScroll->isVisibleTo(this);
+    const bool bar = VScroll->isVisibleTo(this), focused = Tabla->hasFocus();
     Label16->setVisible(false);
     LineImagen->setVisible(false);
     Tabla->setVisible(false);
@@ -251,6 +251,7 @@ void ListScreen::placeGrid() {
         Tabla->setWidth(LabFondo->Width() - (bar ? VScroll->Width() : 0) - 60);
     }
     Tabla->setVisible(true);
+    if (focused) Tabla->setFocus(Qt::OtherFocusReason); // hiding has passed it on
 }
 
 void ListScreen::fillHeadings() {

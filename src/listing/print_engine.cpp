@@ -88,7 +88,10 @@ class Parrafo {
     }
 
     void endLine() {
+        const double before = printer_.CurrentY;
         printer_.PrintLine();
+        // The printer has turned the page by itself: the picture stays on the page before.
+        if (printer_.CurrentY < before) state_.PosicionYImagen = 0;
         ImprimirLineaParrafo(printer_, Lineas, state_);
     }
 

@@ -33,6 +33,7 @@ SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QStri
     LabOpcionSQL = add<Memo>(u"LabOpcionSQL"_s, {3555, 5085, 6315, 1080});
     LabOpcionSQL->setType(type::G, false);
     LabOpcionSQL->setLocked(true);
+    LabOpcionSQL->setFocusPolicy(Qt::StrongFocus); // long words are scrolled by the keys
     setOpenLook(LabOpcionSQL);
     LabOpcionSQL->setToolTipText(u"Filters"_s);
     addOrderFrame();

@@ -58,7 +58,7 @@ class SelectScreen : public shell::Screen {
     void recover(int error);
     void takeUpFilters();
 
-    /// Whether both lists of the filter stand on choices.
+    /// Takes the placeholders out of the lists of the filter and chooses their first rows.
     void composeNext();
     void rememberRows();
     void setOrderLists();

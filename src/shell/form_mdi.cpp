@@ -3,6 +3,7 @@
 #include "platform/base/files.h"
 #include "platform/forms/decoration.h"
 #include "platform/forms/look_style.h"
+#include <QApplication>
 #include <QCloseEvent>
 #include <QPainter>
 
@@ -44,10 +45,9 @@ void FormMdi::Form_Resize() {
         scale_.set(fitting);
         forms::LookStyle::rescale(*this);
         solapas_->applyScale();
-        forms::LookStyle::rescale(*this);
     }
     backdrop_ = {};
-    if (loaded_ && !isMinimized()) solapas_->MostrarFormulario(solapas_->VentanaMostrandose);
+    if (loaded_ && !unloading_ && !isMinimized()) solapas_->MostrarFormulario(solapas_->VentanaMostrandose);
 }
 
 void FormMdi::resizeEvent(QResizeEvent*) {
@@ -59,8 +59,10 @@ void FormMdi::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
 }
 
+// Behind a box the running handler still needs its screen: the answer comes first.
 void FormMdi::closeEvent(QCloseEvent* event) {
-    event->accept();
+    event->setAccepted(!QApplication::activeModalWidget());
+    if (!event->isAccepted()) return;
     guarded([this] { Form_Unload(); });
 }
 

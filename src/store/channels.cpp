@@ -25,6 +25,7 @@ void Store::loadForm(int form, const QString& file) {
         channels.back().DatabaseName = file;
     }
     module1.SolapasFijas = false;
+    if (form == 1) memory.startIrregular();
     for (const KindInfo& kind : kinds()) {
         if (kind.form != form) continue;
         memory.start(kind.kind);

@@ -63,25 +63,26 @@ struct ListLoad {
 struct KindInfo {
     Kind kind;
     QStringView table;
-    QStringView shortName;       ///< in the names of the working memory
-    int form = 1;                ///< 1 Records I, 2 Records II
-    int channel = 0;             ///< of the hidden form of that number
-    int tab = 0;                 ///< entity tab, from 0
-    QStringView title;           ///< LabBaseDatos of the Select screen, and the title on paper
-    int fieldCount = 0;          ///< the fixed number of fields that the screens tell
-    int valueLimit = 75;         ///< characters of a filter's value
+    QStringView shortName;        ///< in the names of the working memory
+    int form = 1;                 ///< 1 Records I, 2 Records II
+    int channel = 0;              ///< of the hidden form of that number
+    int tab = 0;                  ///< entity tab, from 0
+    QStringView title;            ///< LabBaseDatos of the Select screen, and the title on paper
+    int fieldCount = 0;           ///< the fixed number of fields that the screens tell
+    int valueLimit = 75;          ///< characters of a filter's value
     bool partOfRecording = false; ///< a recording may point to the record: its screens are a place to pick parts from
     qint32 Module1::*shownKey = nullptr; ///< takes the key of the record that the Show-Edit screen shows
-    qint32 noKey = -2;                   ///< what it holds while none is shown
-    bool identifierTip = true;   ///< the identifier boxes of the Add screen carry the tip "Identifier"
-    bool acceptTrapped = true; ///< a failure while a change is accepted is reported; else it ends the program
-    bool hashKeptOut = false;  ///< the value of a filter may not hold "#", which would split the remembered rows
-    bool laterByValue = false; ///< a later numeric filter takes the number that its value begins with
+    bool identifierTip = true;           ///< the identifier boxes of the Add screen carry the tip "Identifier"
+    bool acceptTrapped = true;           ///< a failure while a change is accepted is reported; else it ends the program
+    bool hashKeptOut = false;    ///< the value of a filter may not hold "#", which would split the remembered rows
+    bool laterByValue = false;   ///< a later numeric filter takes the number that its value begins with
     QStringView saveTail = u" "; ///< what ends the query of the Add screen's save
     QStringView listTicks;       ///< name of the array of ticks
     ListLoad listLoad = {};
-    QStringView drawing;         ///< picture that stands for the lack of one
+    QStringView drawing; ///< picture that stands for the lack of one
     std::span<const Field> fields;
+    int listItems = 0;                          ///< items of the list of fields; 0 where they are the listed fields
+    std::span<const QStringView> clauses = {};  ///< WHERE texts that the selection keeps, where it has several
     std::span<const QStringView> nameRows = {}; ///< captions in Select that stand for the name, where it has several
 
     /// Position of a column in `fields`, -1 for none.

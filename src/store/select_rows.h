@@ -1,5 +1,5 @@
-// Rows of the lists of the Select screens: the fields of a kind, the criteria, the orderings. The printed list tells the
-// order in the same words.
+// Rows of the lists of the Select screens: the fields of a kind, the criteria, the orderings. The printed list tells
+// the order in the same words.
 #pragma once
 
 #include "store/schema.h"

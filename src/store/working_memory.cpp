@@ -8,12 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The recording's list offers fields of seven tables.
-constexpr int RecordingListItems = 34;
-
-constexpr QStringView RecordingClauses[] = {u"Compositor", u"Obra",    u"Orquesta", u"Director",
-                                            u"Interprete", u"Soporte", u"Grabacion"};
-
 class Lines {
   public:
     void number(const QString& name, qint32 value) { lines_ += name + u" = "_s + QString::number(value); }
@@ -38,11 +32,9 @@ void dumpCounters(Lines& lines, const KindInfo& kind, const KindMemory& memory) 
 void dumpSelection(Lines& lines, const KindInfo& kind, const SelectionMemory& memory) {
     const QString prefix = u"MemoSel"_s + kind.shortName.toString();
     lines.number(prefix + u"NT"_s, memory.NT);
-    if (kind.kind == Kind::Grabacion)
-        for (std::size_t i = 0; i < memory.OpcionesGrabacion.size(); ++i)
-            lines.text(prefix + u"OpcionSQL"_s + RecordingClauses[i].toString(), memory.OpcionesGrabacion[i]);
-    else
-        lines.text(prefix + u"OpcionSQL"_s, memory.OpcionSQL);
+    if (kind.clauses.empty()) lines.text(prefix + u"OpcionSQL"_s, memory.OpcionSQL);
+    for (std::size_t i = 0; i < kind.clauses.size(); ++i)
+        lines.text(prefix + u"OpcionSQL"_s + kind.clauses[i].toString(), memory.Opciones[i]);
     lines.text(prefix + u"ValorFiltro"_s, memory.ValorFiltro);
     lines.text(prefix + u"Lista"_s, memory.Lista);
     lines.number(prefix + u"CampoOrden"_s, memory.CampoOrden);
@@ -64,7 +56,7 @@ void dumpList(Lines& lines, const KindInfo& kind, const ListMemory& memory) {
 } // namespace
 
 int listItemCount(const KindInfo& kind) {
-    if (kind.kind == Kind::Grabacion) return RecordingListItems;
+    if (kind.listItems) return kind.listItems;
     return static_cast<int>(
         std::count_if(kind.fields.begin(), kind.fields.end(), [](const Field& f) { return !f.listed.isEmpty(); }));
 }
@@ -73,14 +65,17 @@ WorkingMemory::WorkingMemory() {
     for (const KindInfo& kind : kinds()) start(kind.kind);
 }
 
+void WorkingMemory::startIrregular() {
+    Obra = {};
+    Orquesta = {};
+    Grabacion = {};
+}
+
 void WorkingMemory::start(Kind kind) {
     KindMemory& memory = of(kind);
     memory = KindMemory{};
     memory.Memo.resize(info(kind).fields.size());
     memory.MemoLis.Campo.resize(static_cast<std::size_t>(listItemCount(info(kind))));
-    if (kind == Kind::Obra) Obra = {};
-    if (kind == Kind::Orquesta) Orquesta = {};
-    if (kind == Kind::Grabacion) Grabacion = {};
 }
 
 QString WorkingMemory::dump() const {
@@ -90,19 +85,15 @@ QString WorkingMemory::dump() const {
         dumpCounters(lines, kind, memory);
         for (std::size_t i = 0; i < kind.fields.size(); ++i)
             if (!kind.fields[i].memo.isEmpty()) lines.text(kind.fields[i].memo.toString(), memory.Memo[i]);
-        if (kind.kind == Kind::Obra) {
-            lines.flag(u"MemoAnaObraAmpRed"_s, Obra.AnaAmpRed);
-            lines.flag(u"MemoMosObraAmpRed"_s, Obra.MosAmpRed);
-        }
-        if (kind.kind == Kind::Orquesta) lines.number(u"MemoOrqSelect"_s, Orquesta.Select);
-        if (kind.kind == Kind::Grabacion) {
-            lines.text(u"MemoAnaGraNotas"_s, Grabacion.AnaNotas);
-            lines.text(u"MemoMosGraNotas"_s, Grabacion.MosNotas);
-        }
         lines.flag(u"Memo"_s + kind.shortName.toString() + u"RedAmp"_s, memory.RedAmp);
         dumpSelection(lines, kind, memory.MemoSel);
         dumpList(lines, kind, memory.MemoLis);
     }
+    lines.flag(u"MemoAnaObraAmpRed"_s, Obra.AnaAmpRed);
+    lines.flag(u"MemoMosObraAmpRed"_s, Obra.MosAmpRed);
+    lines.number(u"MemoOrqSelect"_s, Orquesta.Select);
+    lines.text(u"MemoAnaGraNotas"_s, Grabacion.AnaNotas);
+    lines.text(u"MemoMosGraNotas"_s, Grabacion.MosNotas);
     return lines.joined();
 }
 

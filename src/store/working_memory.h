@@ -17,8 +17,7 @@ struct SelectionMemory {
     QString Lista = QStringLiteral("#"); ///< rows of the filter list, each ended by "#"
     qint16 CampoOrden = -1;              ///< row of the ordering field, -1 none
     qint16 CriterioOrden = -1;           ///< row of the ordering direction, -1 none
-    /// The recording keeps a WHERE text for each table that it is linked to, in place of OpcionSQL.
-    std::array<QString, 7> OpcionesGrabacion;
+    std::array<QString, 7> Opciones;     ///< the same for each table, where the kind's selection keeps several
 
     void reset() { *this = SelectionMemory{}; }
 };
@@ -73,8 +72,11 @@ class WorkingMemory {
 
     /// Start values of a kind: nothing typed, no selection, counters 0.
     void start(Kind kind);
+    /// Start values of what only some kinds have.
+    void startIrregular();
 
-    /// One "name = value" line per variable under its full name, Records I first: `MemoSelCompLista = "#"`.
+    /// One "name = value" line per variable under its full name, Records I first, the irregular ones last:
+    /// `MemoSelCompLista = "#"`.
     QString dump() const;
 
   private:

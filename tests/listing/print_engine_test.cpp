@@ -122,10 +122,10 @@ TEST_F(Paragraph, PassesTheLastLinesWithoutAPageNumber) {
     state.PosicionYImagen = 1500;
     pen(904, 1500);
     print(u"one two three four five six seven eight nine"_s);
-    // The printer turned the page by itself, above the remembered bottom of the picture.
+    // The printer turned the page by itself; the picture and its bottom stay on the page before.
     expect({u"page 1"_s, u"text 904 1500 9 0 'one two three four '"_s, u"text 904 1700 9 0 'five six seven eight '"_s,
-            u"page 2"_s, u"text 1604 0 9 0 'nine'"_s},
-           904, 1500);
+            u"page 2"_s, u"text 904 0 9 0 'nine'"_s},
+           904, 0);
     EXPECT_EQ(state.Pagina, 1);
 }
 

@@ -208,6 +208,8 @@ void CheckList::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(even
 ScrollBar::ScrollBar(QWidget* parent) : Control(parent) {
     setRole(this, Role::ScrollBar);
     setFocusPolicy(Qt::StrongFocus);
+    setTracking(false); // a drag changes the value when it ends
+    setPageStep(1);
     connect(this, &QScrollBar::valueChanged, this, [this] { fire(Change); });
 }
 
@@ -277,10 +279,9 @@ void TabControl::paintEvent(QPaintEvent*) {
     if (!scale()) return;
     QPainter painter(this);
     painter.setFont(font());
-    const int gap = scale()->px(30);
     for (int i = 0; i < count(); ++i) {
         TabLook tab;
-        tab.rect = tabRect(i).adjusted(0, 0, -gap, 0);
+        tab.rect = tabRect(i);
         tab.caption = tabText(i);
         tab.chosen = i == currentIndex();
         tab.hovered = i == hovered_ && isEnabled();

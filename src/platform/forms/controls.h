@@ -141,6 +141,11 @@ class ScrollBar : public Control<QScrollBar> {
 
     Handler Change;
 
+    /// The arrow keys follow the direction: right and down go on.
+    void setDirection(Qt::Orientation orientation) {
+        setOrientation(orientation);
+        setInvertedControls(orientation == Qt::Vertical);
+    }
     int Value() const { return value(); }
     /// Another value than before fires Change. Error 380 outside Min to Max, 6 beyond 16 bits.
     void setValue(int value);

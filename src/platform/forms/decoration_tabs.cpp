@@ -21,10 +21,10 @@ void paintRowLine(QPainter& painter, int row, const Scale& scale) {
 }
 
 void paintPadlock(QPainter& painter, const Scale& scale) {
-    const QRect body = scale.rect({9990, 525, 165, 135});
+    const QRect body = scale.rect({9990, 540, 165, 135});
     const double width = std::max(1.0, 0.13 * body.width());
     draw::box(painter, body, colour::Accent, colour::Accent, scale.hairline(), scale.px(22));
-    const double inset = 0.18 * body.width() + width / 2, top = scale.px(435) + width / 2;
+    const double inset = 0.18 * body.width() + width / 2, top = scale.px(465) + width / 2;
     const double radius = body.width() / 2.0 - inset;
     QPainterPath shackle;
     shackle.moveTo(body.left() + inset, body.top() + 1);

@@ -56,6 +56,8 @@ FlexGrid::FlexGrid(QWidget* parent) : Control(parent) {
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
+    // A double click on a line between headings is no drag.
+    disconnect(horizontalHeader(), &QHeaderView::sectionHandleDoubleClicked, nullptr, nullptr);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int pixels) {
         // Only a drag changes a width; a layout merely renders it.
         if (!laying_ && scale()) widths_[std::size_t(column)] = qRound(scale()->twips(pixels));
@@ -87,7 +89,7 @@ void FlexGrid::setCols(int cols) {
 }
 
 void FlexGrid::setFixedRows(int rows) {
-    if (rows > rows_ - 1 || rows < 0 || rows > 1)
+    if (rows != 0 && (rows > rows_ - 1 || rows < 0 || rows > 1))
         throw RuntimeError(30016, QStringLiteral("FixedRows must be at least one less than Rows value"));
     if (rows == fixed_) return;
     fixed_ = rows;
@@ -160,9 +162,7 @@ void FlexGrid::setCellForeColor(const QColor& colour) { cell(row_, col_)->setFor
 
 void FlexGrid::setCellBackColor(const QColor& colour) { cell(row_, col_)->setBackground(colour); }
 
-void FlexGrid::setAlignment(int row, int col, Qt::Alignment alignment) {
-    cell(row, col)->setTextAlignment(alignment);
-}
+void FlexGrid::setAlignment(int row, int col, Qt::Alignment alignment) { cell(row, col)->setTextAlignment(alignment); }
 
 int FlexGrid::ColWidth(int col) const {
     if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
@@ -255,10 +255,7 @@ void FlexGrid::wheelEvent(QWheelEvent* event) {
     const int steps = turned_ / 120;
     turned_ -= steps * 120;
     event->accept();
-    if (steps != 0)
-        fire([this, steps] {
-            if (Wheel) Wheel(steps);
-        });
+    if (steps != 0) fire([handler = Wheel, steps] { handler(steps); });
 }
 
 } // namespace zv::forms

@@ -12,12 +12,17 @@ namespace zv::forms {
 
 namespace {
 
-/// Longest side in pixels of what is kept of a picture: enough for the largest box on screen and on paper.
-constexpr int KeptPixels = 1200;
+/// A picture of more pixels would take too much memory on its way to a small one.
+constexpr qint64 MostPixels = 200'000'000;
 
 } // namespace
 
-PictureData LoadPicture(const QString& path) {
+QSize fitted(QSize natural, int side) {
+    const double w = natural.width(), h = natural.height();
+    return w >= h ? QSize(side, toLong(side * h / w)) : QSize(toLong(side * w / h), side);
+}
+
+PictureData LoadPicture(const QString& path, int keptPixels) {
     if (path.isEmpty()) return {};
     const QFileInfo file(path);
     if (!file.exists()) throw RuntimeError(file.dir().exists() ? 53 : 76);
@@ -26,13 +31,14 @@ PictureData LoadPicture(const QString& path) {
     const QByteArray format = reader.format();
     if (format != "jpeg" && format != "gif" && format != "bmp" && format != "ico") throw RuntimeError(481);
     QSize natural = reader.size();
-    if (natural.isValid() && std::max(natural.width(), natural.height()) > KeptPixels && format == "jpeg")
-        reader.setScaledSize(natural.scaled(KeptPixels, KeptPixels, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    if (qint64(natural.width()) * natural.height() > MostPixels) throw RuntimeError(481);
+    if (natural.isValid() && std::max(natural.width(), natural.height()) > keptPixels && format == "jpeg")
+        reader.setScaledSize(natural.scaled(keptPixels, keptPixels, Qt::KeepAspectRatio).expandedTo({1, 1}));
     QImage image = reader.read();
     if (image.isNull()) throw RuntimeError(481);
     if (!natural.isValid()) natural = image.size();
-    if (std::max(image.width(), image.height()) > KeptPixels)
-        image = image.scaled(image.size().scaled(KeptPixels, KeptPixels, Qt::KeepAspectRatio).expandedTo({1, 1}),
+    if (std::max(image.width(), image.height()) > keptPixels)
+        image = image.scaled(image.size().scaled(keptPixels, keptPixels, Qt::KeepAspectRatio).expandedTo({1, 1}),
                              Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     image.setDevicePixelRatio(1);
     return {image, {}, natural * 15};
@@ -105,15 +111,13 @@ void CargarImagen(Picture& box, CommonDialog& dialog, int maxHeight, int maxWidt
     try {
         box.setVisible(false);
         box.setStretch(false);
-        box.setPicture(LoadPicture(dialog.FileName));
-        const int w = box.Width(), h = box.Height();
-        if (w >= h) {
-            box.setWidth(maxWidth);
-            box.setHeight(toLong(double(maxWidth) * h / w));
-        } else {
-            box.setHeight(maxHeight);
-            box.setWidth(toLong(double(maxHeight) * w / h));
-        }
+        // Three pixels for one of scale 1 are enough at the largest scale.
+        const int pixels = std::min(KeptPixels, 3 * std::max(maxWidth, maxHeight) / 15 + 3);
+        box.setPicture(LoadPicture(dialog.FileName, pixels));
+        const QSize size(box.Width(), box.Height());
+        const QSize shown = fitted(size, size.width() >= size.height() ? maxWidth : maxHeight);
+        box.setWidth(shown.width());
+        box.setHeight(shown.height());
         box.setStretch(true);
     } catch (const RuntimeError&) {
         box.setStretch(true);

@@ -17,10 +17,16 @@ struct PictureData {
     bool isEmpty() const { return image.isNull() && drawing.isEmpty(); }
 };
 
+/// Longest side in pixels of what is kept of a picture: enough for the largest box on screen and on paper.
+inline constexpr int KeptPixels = 1200;
+
+/// A size fitted to a square of that side, keeping its proportions, in twips.
+QSize fitted(QSize natural, int side);
+
 /// Loads a picture file: .jpg, .gif, .bmp and .ico by their contents, the first frame. A large picture is kept smaller
 /// than it is, so that memory stays bounded; its natural size is its own at 96 dots to the inch. Error 53 without the
 /// file, 76 without its folder, 481 for what is no picture of these or too large to decode. "" gives an empty picture.
-PictureData LoadPicture(const QString& path);
+PictureData LoadPicture(const QString& path, int keptPixels = KeptPixels);
 
 class Picture : public Control<QLabel> {
   public:

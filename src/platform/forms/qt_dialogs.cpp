@@ -98,6 +98,7 @@ int QtMessageBoxes::MsgBox(const QString& text, int style) {
 
 QString QtFileDialogs::openFile(const QString& title, const QString& filter, const QString& fileName) {
     QFileDialog dialog(parentWindow(), title);
+    dialog.setObjectName(u"DialogoImagen"_s);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(nameFilters(filter));

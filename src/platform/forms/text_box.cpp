@@ -59,11 +59,13 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event) {
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
     pressGaveFocus_ = false;
-    if (KeyPress && event->text().size() == 1 && !KeyPress(event->text().front())) {
+    bool taken = true;
+    if (KeyPress && event->text().size() == 1)
+        fire([handler = KeyPress, key = event->text().front(), &taken] { taken = handler(key); });
+    if (taken)
+        QLineEdit::keyPressEvent(event);
+    else
         event->accept();
-        return;
-    }
-    QLineEdit::keyPressEvent(event);
 }
 
 void keepOut(TextBox& box, QChar character) {

@@ -1,10 +1,11 @@
 // Comparing and folding with ICU, with short ways for the ASCII that most texts consist of.
 #include "platform/jet/collation.h"
 
+#include "platform/base/runtime_error.h"
+
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <stdexcept>
 #include <unicode/bytestream.h>
 #include <unicode/normalizer2.h>
 #include <unicode/ucol.h>
@@ -15,7 +16,7 @@ namespace zv::jet {
 namespace {
 
 void check(UErrorCode status) {
-    if (U_FAILURE(status)) throw std::runtime_error(u_errorName(status));
+    if (U_FAILURE(status)) throw RuntimeError(status == U_MEMORY_ALLOCATION_ERROR ? 7 : 5);
 }
 
 UCollator* makeCollator() {

@@ -12,9 +12,9 @@ DataControl::~DataControl() = default;
 DataControl::DataControl(DataControl&&) noexcept = default;
 
 void DataControl::Refresh() {
-    recordset_.reset();
-    database_ = engine_->OpenDatabase(DatabaseName);
-    recordset_ = std::make_unique<jet::Recordset>(database_, RecordSource);
+    std::shared_ptr<Database> database = engine_->OpenDatabase(DatabaseName);
+    recordset_ = std::make_unique<jet::Recordset>(database, RecordSource);
+    database_ = std::move(database);
 }
 
 jet::Recordset& DataControl::Recordset() {

@@ -17,8 +17,8 @@ class DataControl {
     QString DatabaseName; ///< path of the file; takes effect at the next Refresh
     QString RecordSource; ///< a table's name or a whole SELECT text; takes effect at the next Refresh
 
-    /// Reruns the source; the recordset stands on its first row. A failing statement leaves the control without a
-    /// usable recordset until the next good Refresh.
+    /// Reruns the source; the recordset stands on its first row. A failing statement leaves the
+    /// rows of the last good one.
     void Refresh();
 
     /// The recordset of the last Refresh. Error 91 without one.

@@ -22,7 +22,7 @@ RuntimeError runtimeErrorOf(const SQLite::Exception& failure, const QString& pat
     case SQLITE_LOCKED:
     case SQLITE_PROTOCOL: return RuntimeError(3260);
     case SQLITE_CONSTRAINT: return RuntimeError(3022);
-    case SQLITE_NOMEM: throw std::bad_alloc();
+    case SQLITE_NOMEM: return RuntimeError(7);
     case SQLITE_CANTOPEN:
     case SQLITE_PERM:
     case SQLITE_AUTH:

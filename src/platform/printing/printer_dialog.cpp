@@ -3,6 +3,7 @@
 #include "platform/base/runtime_error.h"
 #include "platform/printing/qt_printer.h"
 
+#include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -18,7 +19,7 @@ std::unique_ptr<Printer> QtPrinterDialogs::ShowPrinter() {
     }
     chosen_->setCopyCount(1);
 
-    QPrintDialog dialog(chosen_.get(), parent_);
+    QPrintDialog dialog(chosen_.get(), parent_ ? parent_.data() : QApplication::activeWindow());
     dialog.setObjectName(u"DialogoImpresora"_s);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
