@@ -39,7 +39,7 @@ endfunction()
 
 # zv_library(NAME core|gui LIBRARIES...): one static library of all sources in this folder.
 function(zv_library name kind)
-  file(GLOB sources CONFIGURE_DEPENDS "*.cpp" "*.h")
+  file(GLOB sources CONFIGURE_DEPENDS "*.cpp" "*.h" "records*/*.cpp" "records*/*.h")
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(${name} PUBLIC zv_options ${ARGN})

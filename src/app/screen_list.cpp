@@ -1,16 +1,18 @@
 #include "app/screen_list.h"
 
 #include "editors/add_screen.h"
+#include "editors/records1/group_show_edit.h"
+#include "editors/records1/orchestra_screens.h"
+#include "editors/records1/work_screens.h"
 #include "editors/show_edit_screen.h"
-#include "listing/list_screen.h"
+#include "listing/list_variants.h"
 #include "report/form_presentacion.h"
-#include "selection/select_screen.h"
+#include "selection/select_variants.h"
 
 namespace zv::app {
 
 using namespace Qt::StringLiterals;
 using shell::Context;
-using shell::Function;
 using shell::Screen;
 using store::Kind;
 
@@ -35,27 +37,37 @@ shell::ScreenEntry patternEntry(const QString& name, const store::KindInfo& kind
             }};
 }
 
-/// The kinds whose four screens are those of the patterns.
-bool isPlain(Kind kind) {
-    switch (kind) {
-    case Kind::Compositor:
-    case Kind::Agrupacion: return true;
-    default: return false;
-    }
-}
+/// Show-Edit of a kind whose records are gathered into groups.
+class PlainGroupShowEdit : public editors::GroupShowEdit {
+  public:
+    PlainGroupShowEdit(Context& context, QWidget* parent, const QString& name, const store::KindInfo& kind)
+        : GroupShowEdit(context, parent, name, kind, editors::groupInfo(kind.kind)) {}
+};
 
-shell::ScreenEntry kindEntry(const store::KindInfo& kind, Function function) {
-    constexpr QStringView abbreviations[] = {u"Ana", u"Sel", u"Mos", u"Lis"};
-    const QString name =
-        u"FormReg%1"_s.arg(kind.form) + abbreviations[static_cast<int>(function)].toString() + kind.table.toString();
-    if (!isPlain(kind.kind)) return entry<EmptyScreen>(name);
-    switch (function) {
-    case Function::Add: return patternEntry<editors::AddScreen>(name, kind);
-    case Function::Select: return patternEntry<selection::SelectScreen>(name, kind);
-    case Function::ShowEdit: return patternEntry<editors::ShowEditScreen>(name, kind);
-    case Function::ListPrint: break;
+/// The four screens of a kind by function. A plain kind has those of the patterns.
+std::array<shell::ScreenEntry, 4> kindEntries(const store::KindInfo& kind) {
+    const auto named = [&kind](QStringView function) {
+        return u"FormReg%1"_s.arg(kind.form) + function.toString() + kind.table.toString();
+    };
+    const QString add = named(u"Ana"), select = named(u"Sel"), show = named(u"Mos"), list = named(u"Lis");
+    switch (kind.kind) {
+    case Kind::Obra:
+        return {entry<editors::FormReg1AnaObra>(add), entry<selection::FormReg1SelObra>(select),
+                entry<editors::FormReg1MosObra>(show), entry<listing::FormReg1LisObra>(list)};
+    case Kind::Orquesta:
+        return {entry<editors::FormReg1AnaOrquesta>(add), entry<selection::FormReg1SelOrquesta>(select),
+                entry<editors::FormReg1MosOrquesta>(show), entry<listing::FormReg1LisOrquesta>(list)};
+    case Kind::Director:
+    case Kind::Interprete:
+        return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
+                patternEntry<PlainGroupShowEdit>(show, kind), patternEntry<listing::ListScreen>(list, kind)};
+    case Kind::Grabacion:
+        return {entry<EmptyScreen>(add), entry<EmptyScreen>(select), entry<EmptyScreen>(show),
+                entry<EmptyScreen>(list)};
+    default:
+        return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
+                patternEntry<editors::ShowEditScreen>(show, kind), patternEntry<listing::ListScreen>(list, kind)};
     }
-    return patternEntry<listing::ListScreen>(name, kind);
 }
 
 } // namespace
@@ -66,7 +78,7 @@ std::vector<shell::ScreenEntry> screenList() {
     for (int records = 1; records <= 2; ++records)
         for (int function = 0; function < 4; ++function)
             for (int tab = 0; tab < 7; ++tab)
-                screens.push_back(kindEntry(store::kindOfTab(records, tab), static_cast<Function>(function)));
+                screens.push_back(kindEntries(store::kindOfTab(records, tab))[std::size_t(function)]);
     for (const QString& name :
          {u"FormInforme"_s, u"FormAyudaGeneral"_s, u"FormAyudaAnadir1"_s, u"FormAyudaAnadir2"_s, u"FormAyudaAnadir3"_s,
           u"FormAyudaSeleccionar"_s, u"FormAyudaMostrar1"_s, u"FormAyudaMostrar2"_s, u"FormAyudaMostrar3"_s,

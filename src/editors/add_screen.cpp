@@ -37,19 +37,15 @@ void AddScreen::addCounters() {
     const QString fields = QString::number(kind().fieldCount);
     auto* frame = add<Frame>({}, {240, 5985, 3000, 1635});
     addLabel({}, Role::Heading, u"Add"_s, {150, 90, 1200, 300}, type::L, true, ToLeft, frame);
-    addLabel({}, Role::Heading, u"RECORDS"_s, {1500, 105, 1350, 270}, type::S, true, ToRight,
-             frame);
+    addLabel({}, Role::Heading, u"RECORDS"_s, {1500, 105, 1350, 270}, type::S, true, ToRight, frame);
     add<Rule>({}, {150, 435, 2700, 0}, frame);
     const auto row = [&](const QString& caption, int top, const QString& name, const QString& tip,
                          const QString& fieldsTip) {
-        addLabel({}, Role::Caption, caption, {150, top, 660, 315}, type::G, true, ToLeft,
-                 frame);
+        addLabel({}, Role::Caption, caption, {150, top, 660, 315}, type::G, true, ToLeft, frame);
         Label* value = addValue(name, u"0"_s, {900, top, 870, 315}, tip, frame);
-        addLabel({}, Role::Unit, u"R"_s, {1800, top, 180, 315}, type::S, false, ToLeft,
-                 frame);
+        addLabel({}, Role::Unit, u"R"_s, {1800, top, 180, 315}, type::S, false, ToLeft, frame);
         addValue({}, fields, {2070, top, 510, 315}, fieldsTip, frame);
-        addLabel({}, Role::Unit, u"F"_s, {2610, top, 180, 315}, type::S, false, ToLeft,
-                 frame);
+        addLabel({}, Role::Unit, u"F"_s, {2610, top, 180, 315}, type::S, false, ToLeft, frame);
         return value;
     };
     LabNumRegNuevos =
@@ -62,8 +58,7 @@ void AddScreen::Carga() {
     BtnDeshacer->setEnabled(false);
     LabNumRegTotal->setCaption(QString::number(memory().Cont));
     LabNumRegNuevos->setCaption(QString::number(memory().ContNew));
-    for (int i = 0; i < fieldCount(); ++i)
-        if (box(i)) box(i).setText(memo(i));
+    fillBoxes();
     const QString& path = memo(pictureField());
     bool shown = false;
     if (!path.isEmpty()) {
@@ -81,6 +76,10 @@ void AddScreen::Carga() {
     Imagen->setVisible(true);
     showHeading();
     placeHeading();
+}
+
+void AddScreen::fillBoxes() {
+    for (int i = 0; i < fieldCount(); ++i) box(i).setText(memo(i));
 }
 
 void AddScreen::changed(int i) {
@@ -124,9 +123,13 @@ void AddScreen::BtnGuardar_Click() {
         module1().Err = error.number();
     }
     store().reportError();
+    saveFailed();
+    module1().ErrorBaseDatos = false;
+}
+
+void AddScreen::saveFailed() {
     Carga();
     Limpiar();
-    module1().ErrorBaseDatos = false;
 }
 
 void AddScreen::saved() {

@@ -16,8 +16,12 @@ class AddScreen : public EditorScreen {
     virtual void Limpiar();
 
   protected:
+    /// Puts what was typed back into the boxes.
+    virtual void fillBoxes();
     /// A box has changed; its text is in the memory afterwards.
     virtual void changed(int i);
+    /// What follows the report of a failed save: the screen is loaded anew and what was typed is lost.
+    virtual void saveFailed();
     void BtnGuardar_Click();
     void BtnDeshacer_Click();
     void BtnImagenEliminar_Click();
@@ -27,10 +31,11 @@ class AddScreen : public EditorScreen {
     forms::Button *BtnGuardar, *BtnDeshacer;
     forms::Label *LabNumRegNuevos, *LabNumRegTotal;
 
+    QString& memo(int i) { return memory().Memo[static_cast<std::size_t>(i)]; }
+
   private:
     void addCounters();
     void saved();
-    QString& memo(int i) { return memory().Memo[static_cast<std::size_t>(i)]; }
 };
 
 } // namespace zv::editors

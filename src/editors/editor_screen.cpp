@@ -55,8 +55,7 @@ EditorScreen::EditorScreen(shell::Context& context, QWidget* parent, const QStri
 void EditorScreen::addCaptions() {
     for (const CaptionPlace& caption : editorLayout(kind_.kind).captions)
         addLabel({}, Role::Caption, caption.text.toString(), caption.rect,
-                 caption.small ? forms::type::S : forms::type::G, true,
-                 caption.left ? forms::ToLeft : forms::ToRight);
+                 caption.small ? forms::type::S : forms::type::G, true, caption.left ? forms::ToLeft : forms::ToRight);
 }
 
 void EditorScreen::addBoxes() {
@@ -91,8 +90,7 @@ Label* EditorScreen::addLabel(const QString& name, Role role, const QString& tex
 
 Label* EditorScreen::addValue(const QString& name, const QString& text, const forms::TwipsRect& rect,
                               const QString& tip, QWidget* inside) {
-    Label* label =
-        addLabel(name, Role::Value, text, rect, forms::type::M, false, forms::ToRight, inside);
+    Label* label = addLabel(name, Role::Value, text, rect, forms::type::M, false, forms::ToRight, inside);
     label->setToolTipText(tip);
     return label;
 }
@@ -121,11 +119,18 @@ bool EditorScreen::identifierMissing() const {
     return false;
 }
 
+// A single identifier loses its blanks; where several boxes identify the record, all stay as they are.
+void EditorScreen::emptyIdentifier() {
+    const auto identifies = [](const store::Field& f) { return f.identifier; };
+    if (std::count_if(kind_.fields.begin(), kind_.fields.end(), identifies) > 1) return;
+    for (int i = 0; i < fieldCount(); ++i)
+        if (field(i).identifier) box(i).setText({});
+}
+
 bool EditorScreen::readyToWrite() {
     if (identifierMissing()) {
         MsgBox(store::MensaIntroducirIDentificador, box::Warning);
-        for (int i = 0; i < fieldCount(); ++i)
-            if (field(i).identifier && Trim(box(i).Text()).isEmpty()) box(i).setText({});
+        emptyIdentifier();
         return false;
     }
     for (int i = 0; i < fieldCount(); ++i) {
@@ -146,7 +151,7 @@ int EditorScreen::fillCampos() {
         case Value::Picture: Campos_.set(column++, f.column, DialogoImagen.FileName); break;
         case Value::Number:
         case Value::Text:
-        case Value::Memo: Campos_.set(column++, f.column, box(i).Text()); break;
+        case Value::Memo: Campos_.set(column++, f.column, fieldText(i)); break;
         }
     }
     return column;

@@ -56,6 +56,8 @@ class EditorScreen : public shell::Screen {
     /// Steps before a write: a missing identifier is told and its box emptied, years are tested and zeroed.
     /// False if the write ends here.
     bool readyToWrite();
+    /// What is written into a field that is no year and no picture.
+    virtual QString fieldText(int i) { return box(i).Text(); }
     /// Fills Campos with all fields but the key; returns their number.
     int fillCampos();
 
@@ -81,6 +83,8 @@ class EditorScreen : public shell::Screen {
     store::Campos Campos_;
 
   private:
+    void emptyIdentifier();
+
     const store::KindInfo& kind_;
     std::vector<Box> boxes_;
 };

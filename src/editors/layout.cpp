@@ -34,6 +34,41 @@ constexpr BoxPlace PerformerBoxes[] = {line(u"TxtNombre", 240),        line(u"Tx
                                        line(u"TxtInstrumento", 1050),  year(u"TxtFecha1", 1455),
                                        year(u"TxtFecha2", 1455, 5580), notes(1860)};
 
+constexpr CaptionPlace OrchestraCaptions[] = {caption(u"Orchestra", 240), caption(u"Ensemble", 645),
+                                              caption(u"Choir", 1050),    caption(u"Gender", 1455),
+                                              caption(u"  Date", 1860),   caption(u"  Notes", 2265)};
+constexpr BoxPlace OrchestraBoxes[] = {line(u"TxtGenero", 1455), year(u"TxtFecha", 1860), notes(2265)};
+
+constexpr CaptionPlace WorkCaptions[] = {
+    caption(u"Author", 240),
+    caption(u"Work", 645),
+    caption(u"No.", 1050),
+    {u"Tonality", {6030, 1050, 735, LineHeight}},
+    caption(u"Opus", 1455),
+    {u"No.", {5475, 1455, 300, LineHeight}},
+    {u"Catalogue", {6525, 1455, 930, LineHeight}},
+    {u"No.", {8475, 1455, 300, LineHeight}},
+    caption(u"Dates", 1860),
+    {u"Subtitle", {6030, 1860, 735, LineHeight}},
+    {u"Movements", {4740, 2295, 990, 270}, false, true},
+    {u"Duration (h-m-s)", {7140, 2295, 1500, 270}},
+    caption(u"Notes", 5220),
+};
+constexpr BoxPlace WorkBoxes[] = {
+    line(u"TxtAutor", 240),
+    line(u"TxtNombre", 645),
+    {u"TxtNumero", {BoxLeft, 1050, 1245, LineHeight}},
+    {u"TxtTonalidad", {6840, 1050, 3030, LineHeight}},
+    {u"TxtOpus", {BoxLeft, 1455, YearWidth, LineHeight}},
+    {u"TxtNumeroOpus", {5850, 1455, 660, LineHeight}},
+    {u"TxtCatalogo", {7530, 1455, 930, LineHeight}},
+    {u"TxtNumeroCatalogo", {8850, 1455, 1020, LineHeight}},
+    {u"TxtFecha1", {BoxLeft, 1860, 585, LineHeight}},
+    {u"TxtFecha2", {5400, 1860, 585, LineHeight}},
+    {u"TxtSubtitulo", {6840, 1860, 3030, LineHeight}},
+    notes(5220),
+};
+
 constexpr CaptionPlace FormatCaptions[] = {longCaption(u"Record Company", 195),
                                            longCaption(u"Catalogue Number", 600),
                                            caption(u"Collection", 1050),
@@ -115,8 +150,8 @@ EditorLayout editorLayout(Kind kind) {
     case Kind::Publicacion: return {PublicationCaptions, PublicationBoxes};
     case Kind::Emisora: return {StationCaptions, StationBoxes};
     case Kind::Internet: return {InternetCaptions, InternetBoxes};
-    case Kind::Obra:
-    case Kind::Orquesta:
+    case Kind::Obra: return {WorkCaptions, WorkBoxes};
+    case Kind::Orquesta: return {OrchestraCaptions, OrchestraBoxes};
     case Kind::Grabacion: break;
     }
     return {};

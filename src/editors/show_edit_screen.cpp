@@ -12,11 +12,13 @@ void ShowEditScreen::Form_Load() {
     LabNumRegSeleccion->setCaption(QString::number(memory().ContSel));
     LabNumFiltros->setCaption(QString::number(memory().ContFil));
     if (memory().RedAmp) BtnReducirAmpliar_Click();
-    if (kind().partOfRecording && (module1().RegresoMosGrabacion || module1().RegresoAnaGrabacion)) {
-        BtnRegresar->setLeft(3390);
-        BtnRegresar->setTop(7230);
-        BtnRegresar->raise();
-    }
+    if (kind().partOfRecording && (module1().RegresoMosGrabacion || module1().RegresoAnaGrabacion)) revealBack();
+}
+
+void ShowEditScreen::revealBack() {
+    BtnRegresar->setLeft(3390);
+    BtnRegresar->setTop(7230);
+    BtnRegresar->raise();
 }
 
 void ShowEditScreen::Form_Unload() {
@@ -157,12 +159,20 @@ void ShowEditScreen::BtnEliminar_Click() {
     markState();
 }
 
+void ShowEditScreen::accept() {
+    if (BtnModificar->isEnabled())
+        modify();
+    else if (BtnEliminar->isEnabled())
+        removeRow();
+}
+
 void ShowEditScreen::BtnGuardar_Click() {
+    if (!kind().acceptTrapped) {
+        accept();
+        return;
+    }
     try {
-        if (BtnModificar->isEnabled())
-            modify();
-        else if (BtnEliminar->isEnabled())
-            removeRow();
+        accept();
     } catch (const RuntimeError& error) {
         module1().Err = error.number();
         reportAndReload();
@@ -177,8 +187,7 @@ void ShowEditScreen::modify() {
         return;
     }
     Carga();
-    context().navigator->BloquearSolapas(false);
-    Bloquear(true);
+    relock();
 }
 
 void ShowEditScreen::removeRow() {
@@ -204,16 +213,20 @@ void ShowEditScreen::removeRow() {
     LabNumRegEliminados->setCaption(CStr(Val(LabNumRegEliminados->Caption()) + 1));
     of.ContEli = toLong(Val(LabNumRegEliminados->Caption()));
     LabNumRegSeleccion->setCaption(QString::number(of.ContSel));
-    context().navigator->BloquearSolapas(false);
-    Bloquear(true);
+    relock();
 }
 
 void ShowEditScreen::reportAndReload() {
     store().reportError();
     Carga();
+    relock();
+    module1().ErrorBaseDatos = false;
+}
+
+void ShowEditScreen::relock() {
     context().navigator->BloquearSolapas(false);
     Bloquear(true);
-    module1().ErrorBaseDatos = false;
+    accepted();
 }
 
 void ShowEditScreen::BtnDeshacer_Click() {

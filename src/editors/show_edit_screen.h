@@ -26,6 +26,8 @@ class ShowEditScreen : public EditorScreen {
     /// Shows the fields of the current row.
     virtual void showRow();
     virtual void changed(int i);
+    /// Accept has brought the screen back to viewing, after a success or a failure.
+    virtual void accepted() {}
     virtual void HScroll_Change();
     void TxtOrden_Change();
     void BtnModificar_Click();
@@ -37,6 +39,10 @@ class ShowEditScreen : public EditorScreen {
     void BtnReducirAmpliar_Click();
     void BtnRegresar_Click();
     void paintBehind(QPainter& painter) override;
+
+    bool hasRows() { return Data().Recordset().RecordCount() != 0; }
+    /// Moves "Back" to where it is seen.
+    void revealBack();
 
     bool Navegable = false; ///< the walk may act
     forms::Frame* Frame1;
@@ -50,9 +56,10 @@ class ShowEditScreen : public EditorScreen {
     void addCounters();
     void addButtons();
     void connectBoxes();
-    bool hasRows() { return Data().Recordset().RecordCount() != 0; }
     void setKey(qint32 key);
+    void accept();
     void modify();
+    void relock();
     void removeRow();
     void reportAndReload();
     /// Shows which of the two states the screen is in.

@@ -84,8 +84,8 @@ void ListScreen::addBars() {
     HScroll->setSingleStep(1);
     HScroll->setPageStep(3);
     HScroll->Change = [this] { HScroll_Change(); };
-    LabZoom = dress(add<Label>(u"LabZoom"_s, {5985, 6750, 420, 330}), Role::Value, u"1"_s, type::M, false,
-                    Qt::AlignCenter);
+    LabZoom =
+        dress(add<Label>(u"LabZoom"_s, {5985, 6750, 420, 330}), Role::Value, u"1"_s, type::M, false, Qt::AlignCenter);
     LabZoom->setToolTipText(u"Zoom No."_s);
     BtnAImagen = add<Button>(u"BtnAImagen"_s, {3960, 7230, 1080, 450});
     BtnAImagen->setText(u"Zoom 5"_s);

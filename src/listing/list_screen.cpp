@@ -130,8 +130,8 @@ void ListScreen::BtnListar_Click() {
     Tabla->setRows(0);
     emptyPictures();
     takeTicks(true);
-    memory().MemoLis.Posicion = 1;
-    memory().MemoLis.Posicion2 = static_cast<qint16>(HScroll->Value());
+    listedMemory().Posicion = 1;
+    listedMemory().Posicion2 = static_cast<qint16>(HScroll->Value());
     VScroll->setEnabled(true);
     EnCalculo = false;
     VScroll_Change();
@@ -169,12 +169,12 @@ void ListScreen::Carga() {
     if (kind_.listLoad.movesToLast) Data().Recordset().MoveLast();
     setPages(RecordCount());
     EnCalculo = false;
-    if (VScroll->Value() == list.Posicion)
+    // A page beyond the end falls to the last one. The bar tells nothing when it already stands there.
+    const int page = std::clamp(list.Posicion, 1, VScroll->Max());
+    if (VScroll->Value() == page)
         VScroll_Change();
-    else if (list.Posicion > VScroll->Max())
-        VScroll->setValue(VScroll->Max());
     else
-        VScroll->setValue(std::max(1, list.Posicion));
+        VScroll->setValue(page);
 }
 
 void ListScreen::HScroll_Change() {

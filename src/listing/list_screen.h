@@ -29,6 +29,9 @@ class ListScreen : public shell::Screen, private PrintRecords {
     /// Whether the field is a number, to be aligned with its like.
     virtual bool isNumber(int item) const;
     QString picturePath() override;
+    /// Whose page and zoom a new list starts anew.
+    virtual store::ListMemory& listedMemory() { return memory().MemoLis; }
+    QStringView columnOf(int item) const { return kind_.fields[std::size_t(itemFields_[std::size_t(item)])].column; }
 
     const store::KindInfo& kind() const { return kind_; }
     store::KindMemory& memory() { return store().memory.of(kind_.kind); }

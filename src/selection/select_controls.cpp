@@ -46,7 +46,8 @@ void SelectScreen::addCounters() {
         return dress(add<Label>({}, rect, frame), role, text, height, bold, align);
     };
     const auto value = [&](const QString& name, const QString& tip, int top) {
-        auto* made = dress(add<Label>(name, {1140, top, 1140, 315}, frame), Role::Value, u"0"_s, type::M, false, ToRight);
+        auto* made =
+            dress(add<Label>(name, {1140, top, 1140, 315}, frame), Role::Value, u"0"_s, type::M, false, ToRight);
         made->setToolTipText(tip);
         return made;
     };
@@ -75,7 +76,8 @@ void SelectScreen::addFilterFrame() {
     TxtValFiltro->setMaxLength(kind_.valueLimit);
     TxtValFiltro->setText(store::ValuePlaceholder.toString());
     TxtValFiltro->setToolTipText(u"Insert Value"_s);
-    TxtValFiltro->Change = [this] { Valor = TxtValFiltro->Text(); };
+    TxtValFiltro->Change = [this] { TxtValFiltro_Change(); };
+    if (kind_.hashKeptOut) TxtValFiltro->KeyPress = [](QChar key) { return key != u'#'; };
     TxtValFiltro->GotFocus = [this] { TxtValFiltro_GotFocus(); };
     const auto button = [&](const QString& name, const QString& caption, const QString& tip, TwipsRect rect) {
         auto* made = add<Button>(name, rect, frame);

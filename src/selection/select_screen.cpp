@@ -83,6 +83,11 @@ void SelectScreen::ComboCriterioOrden_Click() {
     if (row >= 0) CriterioOrden = store::OrderCriteria[row].text.toString();
 }
 
+void SelectScreen::TxtValFiltro_Change() {
+    Valor = TxtValFiltro->Text();
+    if (kind_.hashKeptOut) forms::keepOut(*TxtValFiltro, u'#');
+}
+
 void SelectScreen::TxtValFiltro_GotFocus() {
     TxtValFiltro->setText({});
     BtnY->setEnabled(false);
@@ -160,7 +165,10 @@ QString SelectScreen::term() const {
     if (numeric && !IsNumeric(value)) value = u"-1"_s;
     const bool like = Criterio == u" LIKE " || Criterio == u" NOT LIKE ";
     if (like) value = u'*' + value + u'*';
-    if (numeric && !like) return Campo + Criterio + value;
+    if (numeric && !like) {
+        if (kind_.laterByValue && !OpcionSQL.isEmpty()) value = CStr(Val(value));
+        return Campo + Criterio + value;
+    }
     return Campo + Criterio + u'\'' + value + u'\'';
 }
 

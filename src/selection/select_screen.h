@@ -32,6 +32,7 @@ class SelectScreen : public shell::Screen {
     store::KindMemory& memory() { return store().memory.of(kind_.kind); }
     jet::DataControl& Data() { return store().Data(kind_.kind); }
 
+    std::vector<store::FieldRow> fieldRows_, orderRows_;
     QString OpcionSQL, Campo, Criterio, Valor, CampoOrden, CriterioOrden;
     QString Operador, EtiquetaOperador, ValorFiltro;
     forms::Combo *ComboCampo, *ComboCriterio, *ComboCampoOrden, *ComboCriterioOrden;
@@ -46,6 +47,7 @@ class SelectScreen : public shell::Screen {
     void ComboCriterio_Click();
     void ComboCampoOrden_Click();
     void ComboCriterioOrden_Click();
+    void TxtValFiltro_Change();
     void TxtValFiltro_GotFocus();
     void BtnNueva_Click();
     void BtnTodo_Click();
@@ -68,7 +70,6 @@ class SelectScreen : public shell::Screen {
     static void removePlaceholder(forms::Combo& list, int rows);
 
     const store::KindInfo& kind_;
-    std::vector<store::FieldRow> fieldRows_, orderRows_;
     int NumCampos = 0, NumCriterios = 0, NumCamposOrden = 0, NumCriteriosOrden = 0;
     QString TextoValor, TextoCampo, TextoCriterio, TextoCampoOrden;
 

@@ -44,6 +44,7 @@ void FormMdi::Form_Resize() {
         scale_.set(fitting);
         forms::LookStyle::rescale(*this);
         solapas_->applyScale();
+        forms::LookStyle::rescale(*this);
     }
     backdrop_ = {};
     if (loaded_ && !isMinimized()) solapas_->MostrarFormulario(solapas_->VentanaMostrandose);

@@ -74,6 +74,9 @@ struct KindInfo {
     qint32 Module1::*shownKey = nullptr; ///< takes the key of the record that the Show-Edit screen shows
     qint32 noKey = -2;                   ///< what it holds while none is shown
     bool identifierTip = true;   ///< the identifier boxes of the Add screen carry the tip "Identifier"
+    bool acceptTrapped = true; ///< a failure while a change is accepted is reported; else it ends the program
+    bool hashKeptOut = false;  ///< the value of a filter may not hold "#", which would split the remembered rows
+    bool laterByValue = false; ///< a later numeric filter takes the number that its value begins with
     QStringView saveTail = u" "; ///< what ends the query of the Add screen's save
     QStringView listTicks;       ///< name of the array of ticks
     ListLoad listLoad = {};

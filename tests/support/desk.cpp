@@ -2,6 +2,7 @@
 
 #include "platform/forms/look_style.h"
 #include <QApplication>
+#include <QTest>
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace zv::test {
@@ -22,26 +23,37 @@ Desk::Desk() : boxes(fail), files(fail) {
 }
 
 Desk::~Desk() {
-    hands.reset();
-    program.reset();
+    stop();
     boxes.checkAllShown();
+}
+
+// The look reads the program's scale.
+void Desk::stop() {
+    hands.reset();
+    if (program) QApplication::setStyle(u"fusion"_s);
+    program.reset();
 }
 
 void Desk::put(const Rows& rows) {
     SQLite::Database database(file().toStdString(), SQLite::OPEN_READWRITE);
     SQLite::Transaction transaction(database);
     for (const QString& values : rows.values)
-        database.exec((u"INSERT INTO "_s + rows.table + u'(' + rows.columns + u") VALUES("_s + values + u')').toStdString());
+        database.exec(
+            (u"INSERT INTO "_s + rows.table + u'(' + rows.columns + u") VALUES("_s + values + u')').toStdString());
     transaction.commit();
 }
 
 void Desk::start(QSize size) {
+    stop();
     program = std::make_unique<app::Program>(boxes, files, printers);
     hands = std::make_unique<driver::Driver>(*program, fail);
     forms::LookStyle::install(program->scale);
     program->window.resize(size);
     ASSERT_TRUE(program->window.Load(folder()));
     program->window.show();
+    // Only in the window in front does a box gain the focus.
+    program->window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program->window));
     hands->enter();
 }
 
@@ -52,11 +64,13 @@ void Desk::close(int answer) {
 
 QStringList Desk::stored(const QString& table, const QString& columns) {
     SQLite::Database database(file().toStdString(), SQLite::OPEN_READONLY);
-    SQLite::Statement query(database, (u"SELECT "_s + columns + u" FROM "_s + table + u" ORDER BY rowid"_s).toStdString());
+    SQLite::Statement query(database,
+                            (u"SELECT "_s + columns + u" FROM "_s + table + u" ORDER BY rowid"_s).toStdString());
     QStringList lines;
     while (query.executeStep()) {
         QStringList cells;
-        for (int i = 0; i < query.getColumnCount(); ++i) cells += QString::fromStdString(query.getColumn(i).getString());
+        for (int i = 0; i < query.getColumnCount(); ++i)
+            cells += QString::fromStdString(query.getColumn(i).getString());
         lines += cells.join(u'|');
     }
     return lines;

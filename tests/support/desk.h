@@ -3,6 +3,7 @@
 
 #include "driver/driver.h"
 #include "platform/printing/recording_printer.h"
+#include "support/readable.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -23,6 +24,8 @@ class Desk : public ::testing::Test {
     void put(const Rows& rows);
     /// Starts the program and goes to the first working screen. size: client pixels.
     void start(QSize size = {1100, 760});
+    /// Ends the program without a word, as its process would; start begins it anew on the same file.
+    void stop();
     /// Closes the main window, answering the question of compaction.
     void close(int answer = box::No);
     /// Rows of a table straight from the file, columns joined by "|".

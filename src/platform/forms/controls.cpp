@@ -233,8 +233,12 @@ void ProgressBar::setProgress(int value) {
     if (isVisible()) repaint();
 }
 
-// With equal bounds the toolkit would show an endless bar.
-void ProgressBar::setMax(int max) { setRange(0, std::max(1, max)); }
+// With equal bounds the toolkit would show an endless bar, with the value beyond them one that has not begun.
+void ProgressBar::setMax(int max) {
+    const int top = std::max(1, max);
+    setValue(std::min(value(), top));
+    setRange(0, top);
+}
 
 TabControl::TabControl(QWidget* parent) : Control(parent) {
     setExpanding(false);

@@ -66,7 +66,10 @@ FlexGrid::FlexGrid(QWidget* parent) : Control(parent) {
 
 void FlexGrid::setRows(int rows) {
     if (rows < 0) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
-    if (rows == 0) fixed_ = 0;
+    if (rows == 0) {
+        fixed_ = 0;
+        for (int col = 0; col < Cols(); ++col) delete takeHorizontalHeaderItem(col);
+    }
     rows_ = rows;
     heights_.resize(std::size_t(rows), -1);
     row_ = std::min(row_, std::max(0, rows - 1));
@@ -145,17 +148,21 @@ QString FlexGrid::TextMatrix(int row, int col) const {
     return found ? found->text() : QString();
 }
 
-void FlexGrid::setText(const QString& text) {
+void FlexGrid::setTextMatrix(int row, int col, const QString& text) {
     // The toolkit draws a carriage return as a blank.
     QString lines = text;
-    cell(row_, col_)->setText(lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n'));
+    cell(row, col)->setText(lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n'));
 }
+
+void FlexGrid::setText(const QString& text) { setTextMatrix(row_, col_, text); }
 
 void FlexGrid::setCellForeColor(const QColor& colour) { cell(row_, col_)->setForeground(colour); }
 
 void FlexGrid::setCellBackColor(const QColor& colour) { cell(row_, col_)->setBackground(colour); }
 
-void FlexGrid::setCellAlignment(Qt::Alignment alignment) { cell(row_, col_)->setTextAlignment(alignment); }
+void FlexGrid::setAlignment(int row, int col, Qt::Alignment alignment) {
+    cell(row, col)->setTextAlignment(alignment);
+}
 
 int FlexGrid::ColWidth(int col) const {
     if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
@@ -170,7 +177,8 @@ void FlexGrid::setColWidth(int col, int twips) {
 }
 
 int FlexGrid::RowHeight(int row) const {
-    const int set = heights_.at(std::size_t(row));
+    if (row < 0 || row >= rows_) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
+    const int set = heights_[std::size_t(row)];
     return std::max(minHeight_, set < 0 ? 240 : set);
 }
 
@@ -193,7 +201,8 @@ void FlexGrid::RemoveItem(int row) {
 
 void FlexGrid::Clear() { clear(); }
 
-// Edges are rounded, not sizes, so that rows and the pictures beside them never drift apart.
+// Edges are rounded where they stand on the screen, not sizes, and the frame is part of the heading: so rows and the
+// pictures beside them never drift apart.
 void FlexGrid::layoutSizes() {
     if (!scale() || laying_) return;
     laying_ = true;
@@ -205,8 +214,12 @@ void FlexGrid::layoutSizes() {
         left += width;
     }
     const int heading = fixed_ ? RowHeight(0) : 0;
-    if (fixed_) horizontalHeader()->setFixedHeight(scale()->px(heading));
-    int top = heading;
+    const int headingPixels = scale()->px(Top() + heading) - scale()->px(Top()) - frameWidth();
+    if (fixed_ && horizontalHeader()->height() != headingPixels) {
+        horizontalHeader()->setFixedHeight(headingPixels);
+        updateGeometries(); // or the rows stay where they were until something else moves them
+    }
+    int top = Top() + heading;
     for (int row = fixed_; row < rows_; ++row) {
         const int height = RowHeight(row);
         verticalHeader()->resizeSection(row - fixed_, scale()->px(top + height) - scale()->px(top));
@@ -237,7 +250,10 @@ void FlexGrid::wheelEvent(QWheelEvent* event) {
         QTableWidget::wheelEvent(event);
         return;
     }
-    const int steps = event->angleDelta().y() / 120;
+    // A fine wheel turns in parts of a step.
+    turned_ += event->angleDelta().y();
+    const int steps = turned_ / 120;
+    turned_ -= steps * 120;
     event->accept();
     if (steps != 0)
         fire([this, steps] {

@@ -39,9 +39,11 @@ class FlexGrid : public Control<QTableWidget> {
     QString Text() const { return TextMatrix(row_, col_); }
     void setText(const QString& text);
     QString TextMatrix(int row, int col) const;
+    void setTextMatrix(int row, int col, const QString& text);
     void setCellForeColor(const QColor& colour);
     void setCellBackColor(const QColor& colour);
-    void setCellAlignment(Qt::Alignment alignment);
+    void setCellAlignment(Qt::Alignment alignment) { setAlignment(row_, col_, alignment); }
+    void setAlignment(int row, int col, Qt::Alignment alignment);
 
     int ColWidth(int col) const;
     void setColWidth(int col, int twips);
@@ -70,6 +72,7 @@ class FlexGrid : public Control<QTableWidget> {
     int row_ = 0, col_ = 0;
     int defaultWidth_ = 960, minHeight_ = 240;
     std::vector<int> widths_, heights_; ///< twips
+    int turned_ = 0;                    ///< of the wheel since the last whole step, in eighths of a degree
     bool laying_ = false;
 };
 

@@ -32,7 +32,6 @@ class Form : public QWidget {
 
     const Scale& scale() const { return scale_; }
 
-  protected:
     /// Adds a control of that name; several of one name get 0, 1, 2 behind it. inside: a frame, or the form itself.
     template <class C>
     C* add(const QString& name, const TwipsRect& rect, QWidget* inside = nullptr) {
@@ -41,6 +40,7 @@ class Form : public QWidget {
         return control;
     }
 
+  protected:
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
     void paintEvent(QPaintEvent* event) override;

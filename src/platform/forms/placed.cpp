@@ -5,6 +5,19 @@
 
 namespace zv::forms {
 
+namespace {
+
+/// Longest tip in one line.
+constexpr qsizetype TipLine = 60;
+
+// Rich text is broken into lines, plain text is not. Escaped letters are letters only in rich text.
+QString shownTip(const QString& tip) {
+    if (tip.size() <= TipLine && !Qt::mightBeRichText(tip)) return tip;
+    return QLatin1String("<qt>") + tip.toHtmlEscaped() + QLatin1String("</qt>");
+}
+
+} // namespace
+
 void Placed::place(const TwipsRect& rect) {
     rect_ = rect;
     if (scale_) widget()->setGeometry(scale_->rect(rect_));
@@ -32,8 +45,12 @@ bool Placed::showTip(QEvent* event) {
     if (tip_.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip_.toHtmlEscaped(), widget());
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shownTip(tip_), widget());
     return true;
+}
+
+void chainTabStops(const std::vector<QWidget*>& widgets) {
+    for (std::size_t i = 0; i + 1 < widgets.size(); ++i) QWidget::setTabOrder(widgets[i], widgets[i + 1]);
 }
 
 bool isFocusGain(Qt::FocusReason reason) {

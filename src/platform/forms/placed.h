@@ -6,6 +6,7 @@
 #include "platform/forms/scale.h"
 #include <QString>
 #include <functional>
+#include <vector>
 
 namespace zv::forms {
 
@@ -77,6 +78,9 @@ class Control : public Base, public Placed {
   protected:
     bool event(QEvent* event) override { return showTip(event) || Base::event(event); }
 };
+
+/// Lets the tab key walk these widgets one after the other.
+void chainTabStops(const std::vector<QWidget*>& widgets);
 
 /// Whether a focus event means that the user or the logic moved to the control. The return of a window or the closing
 /// of a popup is no gain of focus.

@@ -15,6 +15,12 @@ void TextBox::setBackColor(const QColor& colour) {
     setPalette(changed);
 }
 
+void TextBox::setText(const QString& text) {
+    if (text == this->text()) return;
+    QLineEdit::setText(text);
+    home(false);
+}
+
 void TextBox::setLocked(bool locked) {
     setReadOnly(locked);
     setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
@@ -60,6 +66,14 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(event);
 }
 
+void keepOut(TextBox& box, QChar character) {
+    const qsizetype length = box.Text().size();
+    for (qsizetype i = 0; i < length; ++i) {
+        const QString text = box.Text();
+        if (i < text.size() && text[i] == character) box.setText(text.left(i) + text.mid(i + 1));
+    }
+}
+
 Memo::Memo(QWidget* parent) : Control(parent) {
     setRole(this, Role::TextBox);
     setTabChangesFocus(true);
@@ -82,14 +96,11 @@ QString Memo::plain() const { return document()->toRawText(); }
 QString Memo::Text() const {
     const QString raw = plain();
     if (raw == setPlain_) return set_;
-    const bool lineFeedsOnly = set_.contains(u'\n') && !set_.contains(u'\r');
     QString text;
     text.reserve(raw.size() + 16);
     for (const QChar c : raw) {
         if (c != QChar::ParagraphSeparator && c != QChar::LineSeparator)
             text += c;
-        else if (lineFeedsOnly)
-            text += u'\n';
         else
             text += QLatin1String("\r\n");
     }

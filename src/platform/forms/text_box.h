@@ -16,7 +16,8 @@ class TextBox : public Control<QLineEdit> {
     std::function<bool(QChar)> KeyPress;
 
     QString Text() const { return text(); }
-    void setText(const QString& text) { QLineEdit::setText(text); }
+    /// A new text is shown from its head.
+    void setText(const QString& text);
     void setBackColor(const QColor& colour);
     QColor BackColor() const { return palette().color(QPalette::Base); }
     /// A locked box is readable and can be clicked, but takes no text and is no stop of the tab key.
@@ -36,6 +37,9 @@ class TextBox : public Control<QLineEdit> {
   private:
     bool pressGaveFocus_ = false;
 };
+
+/// Cuts a character out of a box's text wherever it stands; each cut fires the box's change again.
+void keepOut(TextBox& box, QChar character);
 
 class Memo : public Control<QPlainTextEdit> {
   public:

@@ -36,11 +36,12 @@ class Screen : public forms::Form {
     /// Fills the screen from the working memory and its channel. Screens without one do their work in their load.
     virtual void Carga() {}
 
+    int MsgBox(const QString& text, int style) { return context_.boxes.MsgBox(text, style); }
+
   protected:
     Context& context() { return context_; }
     store::Store& store() { return context_.store; }
     store::Module1& module1() { return context_.store.module1; }
-    int MsgBox(const QString& text, int style) { return context_.boxes.MsgBox(text, style); }
 
   private:
     Context& context_;
