@@ -36,9 +36,8 @@ int makeCatalogue(const QString& folder) {
     return 0;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+/// Reads the command line and does what it says. Returns the status of the process.
+int run(int argc, char** argv) {
     CLI::App tool("Makes catalogues for Zarvelia.", "zarvelia-tool");
     tool.set_version_flag("--version", ZV_VERSION);
     tool.require_subcommand(1);
@@ -47,4 +46,15 @@ int main(int argc, char** argv) {
     make->add_option("FOLDER", folder, "The folder, which must exist and hold no catalogue.")->required();
     CLI11_PARSE(tool, argc, argv);
     return makeCatalogue(QString::fromLocal8Bit(folder.c_str()));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
 }

@@ -11,11 +11,11 @@ namespace zv::store {
 /// A table of strings with rows and columns from 0. An index beyond it is error 9.
 class FixedTable {
   public:
-    FixedTable(int rows, int columns) : columns_(columns), cells_(static_cast<std::size_t>(rows * columns)) {}
+    FixedTable(int rows, int columns) : columns_(columns), cells_(std::size_t(rows) * std::size_t(columns)) {}
 
     QString& at(int row, int column) {
         if (row < 0 || column < 0 || column >= columns_ || row >= rows()) throw RuntimeError(9);
-        return cells_[static_cast<std::size_t>(row * columns_ + column)];
+        return cells_[std::size_t(row) * std::size_t(columns_) + std::size_t(column)];
     }
     const QString& at(int row, int column) const { return const_cast<FixedTable*>(this)->at(row, column); }
     int rows() const { return static_cast<int>(cells_.size()) / columns_; }

@@ -14,7 +14,7 @@ int ScriptedBoxes::MsgBox(const QString& text, int style) {
     expected_.pop_front();
     if (next.text != text || next.style != style)
         failure_(u"Expected a box of style %1: %2\nbut style %3 came: %4"_s.arg(QString::number(next.style), next.text,
-                                                                              QString::number(style), text));
+                                                                                QString::number(style), text));
     return next.answer;
 }
 
