@@ -272,6 +272,7 @@ void SelectScreen::accept() {
     of.MemoSel.OpcionSQL.clear();
     of.MemoSel.ValorFiltro = LabOpcionSQL->Text();
     ValoresInicio();
+    BtnNueva->setFocus(Qt::OtherFocusReason); // the button that was pressed is disabled by now
 }
 
 void SelectScreen::clearStatement() {
