@@ -36,6 +36,7 @@ void RecordingScreen::addPart(int part) {
     Lab[std::size_t(part)] = heading;
     auto* picture = add<Picture>(u"Imagen"_s + suffix, {info.left, info.top, PartPicture, PartPicture});
     picture->setPicture({{}, store::info(info.kind).drawing.toString(), {PartPicture, PartPicture}});
+    setRole(picture, Role::PageImage); // the border is its tile's
     picture->setToolTipText(u"Show %1 (Double Click)"_s.arg(info.word));
     picture->DblClick = [this, part] { Imagen_DblClick(part); };
     Imagen[std::size_t(part)] = picture;
