@@ -3,6 +3,8 @@
 #include "editors/add_screen.h"
 #include "editors/records1/group_show_edit.h"
 #include "editors/records1/orchestra_screens.h"
+#include "editors/records1/recording_add.h"
+#include "editors/records1/recording_show_edit.h"
 #include "editors/records1/work_screens.h"
 #include "editors/show_edit_screen.h"
 #include "listing/list_variants.h"
@@ -62,8 +64,8 @@ std::array<shell::ScreenEntry, 4> kindEntries(const store::KindInfo& kind) {
         return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
                 patternEntry<PlainGroupShowEdit>(show, kind), patternEntry<listing::ListScreen>(list, kind)};
     case Kind::Grabacion:
-        return {entry<EmptyScreen>(add), entry<EmptyScreen>(select), entry<EmptyScreen>(show),
-                entry<EmptyScreen>(list)};
+        return {entry<editors::FormReg1AnaGrabacion>(add), entry<EmptyScreen>(select),
+                entry<editors::FormReg1MosGrabacion>(show), entry<EmptyScreen>(list)};
     default:
         return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
                 patternEntry<editors::ShowEditScreen>(show, kind), patternEntry<listing::ListScreen>(list, kind)};
