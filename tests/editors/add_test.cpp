@@ -11,11 +11,6 @@ using store::Value;
 
 class Add : public EditorMember {
   protected:
-    /// Text of exactly that many characters, with letters outside ASCII, quotes and wild cards among them.
-    static QString letters(qsizetype count) {
-        const QString alphabet = u"Dvořák ñÑ ß œ Шостакович 音楽 ' \" * # % _ [x] é"_s;
-        return alphabet.repeated(count / alphabet.size() + 1).left(count - 1) + u'z';
-    }
     QString name(const Field& field) const { return field.control.toString(); }
     bool isEnabled(const char* control) { return hands->isEnabled(QString::fromLatin1(control)); }
     /// The two counters of the screen and those of the memory behind them.
@@ -29,34 +24,6 @@ class Add : public EditorMember {
 };
 
 INSTANTIATE_TEST_SUITE_P(Editors, Add, EditorMembers, memberName);
-
-TEST_P(Add, aRecordOfFullBoxesIsTheSameAfterARestart) {
-    start();
-    hands->go(addNumber);
-    const QString block = u"One line.\n\tA tab, a no-break\u00A0blank, a #.\n"_s;
-    const QString notes = block.repeated(25000 / block.size() + 1).left(25000);
-    std::map<const Field*, QString> wanted;
-    for (const Field* field : textBoxes()) {
-        if (field->value == Value::Memo) {
-            hands->paste(name(*field), notes);
-            wanted[field] = QString(notes).replace(u'\n', u"\r\n"_s);
-        } else if (field->value == Value::Year) {
-            hands->type(name(*field), u"19857"_s);
-            wanted[field] = u"19857"_s.left(field->limit);
-        } else {
-            wanted[field] = letters(field->limit);
-            hands->paste(name(*field), wanted[field] + u"beyond"_s);
-        }
-        EXPECT_EQ(shown(*field), wanted[field]) << name(*field).toStdString();
-    }
-    save();
-    restart();
-    hands->go(showNumber);
-    for (const Field* field : textBoxes()) {
-        EXPECT_EQ(shown(*field), wanted[field]) << name(*field).toStdString();
-        EXPECT_EQ(column(*field), QStringList{wanted[field]}) << name(*field).toStdString();
-    }
-}
 
 TEST_P(Add, typedTextOutlivesOtherScreensButNotTheProgram) {
     start();

@@ -9,7 +9,8 @@ namespace zv::test {
 
 using store::Kind;
 
-inline const auto EditorMembers = ::testing::Values(Kind::Compositor, Kind::Agrupacion);
+inline const auto EditorMembers =
+    ::testing::Values(Kind::Compositor, Kind::Interprete, Kind::Instrumento, Kind::Agrupacion, Kind::Internet);
 
 inline std::string memberName(const ::testing::TestParamInfo<Kind>& member) {
     return store::info(member.param).table.toString().toStdString();

@@ -28,8 +28,9 @@ class ListDesk : public Desk {
         hands->tick(ticks);
         hands->click(u"BtnListar"_s);
     }
-    /// A selection made elsewhere.
-    void select(const QString& clause) {
+    /// A selection made elsewhere; "Id" stands for the key.
+    void select(QString clause) {
+        clause.replace(u" Id "_s, u' ' + m.info().key().column.toString() + u' ');
         auto& data = program->store.Data(m.kind);
         data.RecordSource = u"SELECT * FROM "_s + m.table() + clause;
         data.Refresh();

@@ -57,7 +57,7 @@ class SelectDesk : public Desk {
         if (rows.RecordCount() != 0) rows.MoveLast();
         for (int i = 0; i < rows.RecordCount(); ++i) {
             rows.setAbsolutePosition(i);
-            keys += data.boundText(u"Id"_s);
+            keys += data.boundText(m.info().key().column.toString());
         }
         return keys.join(u' ');
     }

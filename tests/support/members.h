@@ -6,6 +6,7 @@
 #include "store/schema.h"
 #include <QString>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace zv::test {
 
@@ -28,10 +29,20 @@ inline const std::vector<Member>& members() {
     static const std::vector<Member> all = {
         {store::Kind::Compositor, QStringLiteral("Name"), QStringLiteral("Surname"), QStringLiteral("Apellidos"),
          QStringLiteral("Date 1"), QStringLiteral("Fecha1")},
+        {store::Kind::Interprete, QStringLiteral("Name"), QStringLiteral("Surname"), QStringLiteral("Apellidos"),
+         QStringLiteral("Date 2"), QStringLiteral("Fecha2")},
         {store::Kind::Agrupacion, QStringLiteral("Entity"), QStringLiteral("Entity"), QStringLiteral("Entidad"),
+         QStringLiteral("Date"), QStringLiteral("Fecha")},
+        {store::Kind::Internet, QStringLiteral("Title"), QStringLiteral("Title"), QStringLiteral("Titulo"),
          QStringLiteral("Date"), QStringLiteral("Fecha")},
     };
     return all;
+}
+
+/// A kind alone, for the suites that bring the words of its fields themselves.
+inline const Member& memberOf(store::Kind kind) {
+    static std::map<store::Kind, Member> made;
+    return made.try_emplace(kind, Member{kind, {}, {}, {}, {}, {}}).first->second;
 }
 
 inline std::string memberName(const ::testing::TestParamInfo<Member>& member) {

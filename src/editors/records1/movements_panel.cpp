@@ -100,6 +100,9 @@ void MovementsPanel::BtnAMList_Click() {
         writeRow(rows() - 1);
         clearStrip();
         TxtMovimiento->setFocus(Qt::OtherFocusReason);
+    } else if (BtnAMList->text() == store::EtiModificar && rows() == 0) {
+        // The screen was cleaned in the middle of a change: what is typed becomes a movement at the next click.
+        BtnAMList->setText(store::EtiAnadir);
     } else if (BtnAMList->text() == store::EtiModificar) {
         DepurarTabla();
         removed = Trim(TxtMovimiento->Text()).isEmpty();

@@ -78,15 +78,17 @@ FormReg1MosOrquesta::FormReg1MosOrquesta(shell::Context& context, QWidget* paren
     }
 }
 
-// A kind of body that is none of the three fills no box.
+// A kind of body that is none of the three fills no box. After a change the boxes are still free: they are emptied
+// first, so that the box of the record does not give way to the one that was typed into.
 void FormReg1MosOrquesta::showRow() {
     const QString text = store().bound(Kind::Orquesta, kind().indexOf(u"Nombre"));
     const double body = Val(store().bound(Kind::Orquesta, kind().indexOf(u"OrqGrpCor")));
+    names_.clear();
     names_.Colorear(true);
     for (int i = 0; i < NameBoxes::Count; ++i) {
-        const bool chosen = body == i + 1;
-        names_.box(i).setText(chosen ? text : QString());
-        if (chosen) names_.box(i).setToolTipText(text);
+        if (body != i + 1) continue;
+        names_.box(i).setText(text);
+        names_.box(i).setToolTipText(text);
     }
     GroupShowEdit::showRow();
 }

@@ -1,0 +1,34 @@
+// The movements of a work as they are stored, and times as they are told.
+#include "store/movements.h"
+#include "support/readable.h"
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace zv::store {
+namespace {
+
+TEST(Movements, aTimeIsSplitAndTold) {
+    struct Case {
+        double seconds;
+        const char* told;
+    };
+    for (const Case& c : {Case{0, "00:00:00"}, Case{9, "00:00:09"}, Case{58, "00:00:58"}, Case{59, "00:00:59"},
+                          Case{60, "00:01:00"}, Case{3599, "00:59:59"}, Case{3600, "01:00:00"}, Case{3602, "01:00:02"},
+                          Case{3659, "01:00:59"}, Case{3725, "01:02:05"}, Case{360000, "100:00:00"}})
+        EXPECT_EQ(clockText(splitSeconds(c.seconds)).toStdString(), c.told) << c.seconds;
+}
+
+TEST(Movements, theListsAreReadToTheirLastSeparator) {
+    EXPECT_EQ(movementNames(u"Allegro# Andante #"_s), (std::vector{u"Allegro"_s, u" Andante "_s}));
+    EXPECT_EQ(movementNames(u"a##b"_s), (std::vector{u"a"_s, QString()})) << "what is not ended is no movement";
+    EXPECT_EQ(movementSeconds(u" 90# 125# 3661#"_s), (std::vector<double>{90, 125, 3661}));
+    EXPECT_EQ(movementSeconds(u"#7# 1"_s), (std::vector<double>{0, 7}));
+    // Sign and point count as the digit 0.
+    EXPECT_EQ(movementSeconds(u"-5# 1.5#"_s), (std::vector<double>{5, 105}));
+    for (const QString& none : {QString(), u"#"_s, u"#a#"_s}) EXPECT_FALSE(hasMovements(none)) << none.toStdString();
+    EXPECT_TRUE(hasMovements(u"a#"_s));
+}
+
+} // namespace
+} // namespace zv::store
