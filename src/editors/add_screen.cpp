@@ -40,18 +40,18 @@ void AddScreen::addCounters() {
     addLabel({}, Role::Heading, u"RECORDS"_s, {1500, 105, 1350, 270}, type::S, true, ToRight, frame);
     add<Rule>({}, {150, 435, 2700, 0}, frame);
     const auto row = [&](const QString& caption, int top, const QString& name, const QString& tip,
-                         const QString& fieldsTip) {
+                         const QString& fieldsName, const QString& fieldsTip) {
         addLabel({}, Role::Caption, caption, {150, top, 660, 315}, type::G, true, ToLeft, frame);
         Label* value = addValue(name, u"0"_s, {900, top, 870, 315}, tip, frame);
         addLabel({}, Role::Unit, u"R"_s, {1800, top, 180, 315}, type::S, false, ToLeft, frame);
-        addValue({}, fields, {2070, top, 510, 315}, fieldsTip, frame);
+        addValue(fieldsName, fields, {2070, top, 510, 315}, fieldsTip, frame);
         addLabel({}, Role::Unit, u"F"_s, {2610, top, 180, 315}, type::S, false, ToLeft, frame);
         return value;
     };
-    LabNumRegNuevos =
-        row(u"New"_s, 555, u"LabNumRegNuevos"_s, u"No. of New Records"_s, u"No. of Fields per New Record"_s);
-    LabNumRegTotal =
-        row(u"Total"_s, 1035, u"LabNumRegTotal"_s, u"Total No. of Records"_s, u"No. of Fields per Record"_s);
+    LabNumRegNuevos = row(u"New"_s, 555, u"LabNumRegNuevos"_s, u"No. of New Records"_s, u"Label6"_s,
+                          u"No. of Fields per New Record"_s);
+    LabNumRegTotal = row(u"Total"_s, 1035, u"LabNumRegTotal"_s, u"Total No. of Records"_s, u"Label11"_s,
+                         u"No. of Fields per Record"_s);
 }
 
 void AddScreen::Carga() {

@@ -56,7 +56,7 @@ void ShowEditScreen::addCounters() {
     LabNumRegSeleccion =
         addValue(u"LabNumRegSeleccion"_s, u"0"_s, {150, 2670, 870, 315}, u"No. of Selected Records"_s, Frame1);
     unit(u"R"_s, {1050, 2670, 180, 315});
-    addValue({}, fields, {1260, 2670, 435, 315}, u"No. of Fields per Selected Record"_s, Frame1);
+    addValue(u"Label11"_s, fields, {1260, 2670, 435, 315}, u"No. of Fields per Selected Record"_s, Frame1);
     unit(u"F"_s, {1725, 2670, 150, 315});
     LabNumFiltros = addValue(u"LabNumFiltros"_s, u"0"_s, {1935, 2670, 585, 315}, u"No. of Selected Filters"_s, Frame1);
     unit(u"Fl"_s, {2550, 2670, 300, 315});
@@ -64,7 +64,7 @@ void ShowEditScreen::addCounters() {
     LabNumRegEliminados =
         addValue(u"LabNumRegEliminados"_s, u"0"_s, {150, 3405, 870, 315}, u"No. of Removed Records"_s, Frame1);
     unit(u"R"_s, {1050, 3405, 180, 315});
-    addValue({}, fields, {1260, 3405, 435, 315}, u"No. of Fields per Removed Record"_s, Frame1);
+    addValue(u"Label14"_s, fields, {1260, 3405, 435, 315}, u"No. of Fields per Removed Record"_s, Frame1);
     unit(u"F"_s, {1725, 3405, 150, 315});
 }
 

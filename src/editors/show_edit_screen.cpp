@@ -125,8 +125,7 @@ void ShowEditScreen::HScroll_Change() {
 void ShowEditScreen::TxtOrden_Change() {
     if (!Navegable) return;
     const QString text = TxtOrden->Text();
-    const bool numeric = IsNumeric(text);
-    const double v = numeric ? Val(text) : 0;
+    const double v = numberOf(text).value_or(0);
     if (v >= 1 && v <= Data().Recordset().RecordCount())
         HScroll->setValue(toInteger(v));
     else

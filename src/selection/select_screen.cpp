@@ -166,7 +166,7 @@ QString SelectScreen::term() const {
     const bool like = Criterio == u" LIKE " || Criterio == u" NOT LIKE ";
     if (like) value = u'*' + value + u'*';
     if (numeric && !like) {
-        if (kind_.laterByValue && !OpcionSQL.isEmpty()) value = CStr(Val(value));
+        if (kind_.laterByValue && !OpcionSQL.isEmpty()) value = CStr(numberOf(value).value_or(-1));
         return Campo + Criterio + value;
     }
     return Campo + Criterio + u'\'' + value + u'\'';

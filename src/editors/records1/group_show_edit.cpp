@@ -23,7 +23,7 @@ GroupInfo groupInfo(Kind kind) {
     case Kind::Orquesta:
         return {&Module1::ListaOrquestaAna, &Module1::ListaOrquestaMos, 10, store::MensaMax10OrqGrpCor,
                 u"Group Orchestra-Choir-Ensemble"_s};
-    default:
+    case Kind::Interprete:
         return {&Module1::ListaInterpreteAna,
                 &Module1::ListaInterpreteMos,
                 100,
@@ -31,6 +31,7 @@ GroupInfo groupInfo(Kind kind) {
                 u"Performers Group (Soloists)"_s,
                 u"Instrumento"_s,
                 true};
+    default: Q_UNREACHABLE();
     }
 }
 
@@ -55,6 +56,7 @@ void GroupShowEdit::addGroup() {
                                  {8700, 5625, 1170, 420});
     BtnAnadirGrupo->Click = [this] { BtnAnadirGrupo_Click(); };
     BtnEliminarGrupo->Click = [this] { BtnEliminarGrupo_Click(); };
+    chainTabStops({box(kind().indexOf(u"Notas")).memo, MSFlexGrid1, BtnAnadirGrupo, BtnEliminarGrupo});
     if (!group_.counted) return;
     LabNumeroInterpretes =
         addLabel(u"LabNumeroInterpretes"_s, Role::Value, {}, {8700, 6735, 1170, 315}, type::M, false, Qt::AlignCenter);
@@ -89,6 +91,7 @@ void GroupShowEdit::BtnAnadirGrupo_Click() {
     MSFlexGrid1->setColWidth(1, 0);
     MSFlexGrid1->setTextMatrix(row, 0, rowText());
     MSFlexGrid1->setTextMatrix(row, 1, key);
+    MSFlexGrid1->setRow(row);
     rememberRows();
     if (module1().RegresoMosGrabacion) revealBack();
     if (MSFlexGrid1->Rows() == group_.limit) {
@@ -151,6 +154,7 @@ void GroupShowEdit::accepted() {
     (module1().*group_.ana).fillColumn(1, FreeRow);
     MSFlexGrid1->setRows(0);
     MSFlexGrid1->setCols(0);
+    BtnAnadirGrupo->setEnabled(true);
     showCount();
 }
 

@@ -45,7 +45,7 @@ void MovementsPanel::connectControls() {
     TxtMovimiento->KeyPress = [](QChar key) { return key != store::MovementEnd; };
     TxtMovimiento->Change = [this] {
         keepOut(*TxtMovimiento, store::MovementEnd);
-        TxtMovimiento->setToolTipText(TxtMovimiento->Text());
+        if (rules_.nameIsTip) TxtMovimiento->setToolTipText(TxtMovimiento->Text());
     };
     for (TextBox* box : timeBoxes())
         box->Change = [box] {

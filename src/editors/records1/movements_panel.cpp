@@ -242,6 +242,7 @@ QString MovementsPanel::takeTotal() {
 void MovementsPanel::setLocked(bool locked) {
     for (TextBox* box : {TxtMovimiento, TxtHoras, TxtMinutos, TxtSegundos}) box->setLocked(locked);
     BtnAMList->setEnabled(!locked);
+    MSFlexGrid1->setFocusPolicy(locked ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
 void MovementsPanel::replayLayout() {

@@ -13,6 +13,7 @@ struct MovementRules {
     bool& wide;                ///< remembered layout
     QString pickedCaption;     ///< caption of the button after a double-click on a row
     QString changedCaption;    ///< and after the row was changed
+    bool nameIsTip;            ///< the box of the name carries its text as tip
     bool pickedAsNumbers;      ///< the time boxes take the numbers of the cells, not their texts
     std::function<bool()> mayPick;
     std::function<void()> clicked; ///< the button has done its work, before the mirror is copied

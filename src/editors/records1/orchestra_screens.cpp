@@ -96,6 +96,7 @@ void FormReg1MosOrquesta::showRow() {
 void FormReg1MosOrquesta::Limpiar() {
     names_.clear();
     GroupShowEdit::Limpiar();
+    showHeading();
 }
 
 void FormReg1MosOrquesta::Bloquear(bool locked) {

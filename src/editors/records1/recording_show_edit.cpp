@@ -188,7 +188,7 @@ void FormReg1MosGrabacion::HScroll_Change() {
 void FormReg1MosGrabacion::TxtOrden_Change() {
     if (!Navegable) return;
     const QString text = TxtOrden->Text();
-    const double v = IsNumeric(text) ? Val(text) : 0;
+    const double v = numberOf(text).value_or(0);
     if (v >= 1 && v <= Data().Recordset().RecordCount())
         HScroll->setValue(toInteger(v));
     else

@@ -40,7 +40,7 @@ bool movementText(MovementsPanel& movements, const store::Field& field, QString&
 FormReg1AnaObra::FormReg1AnaObra(shell::Context& context, QWidget* parent, const QString& name)
     : AddScreen(context, parent, name, work()),
       movements_(*this, {module1().MovimientosAna, store().memory.Obra.AnaAmpRed, store::EtiModificar, store::EtiAnadir,
-                         true, [] { return true; }, [this] { rememberMovements(); }}) {}
+                         false, true, [] { return true; }, [this] { rememberMovements(); }}) {}
 
 QString FormReg1AnaObra::RistraNombre() const {
     return heading(box(kind().indexOf(u"Nombre")).Text(), box(kind().indexOf(u"Numero")).Text(),
@@ -75,8 +75,8 @@ void FormReg1AnaObra::Limpiar() {
 
 FormReg1MosObra::FormReg1MosObra(shell::Context& context, QWidget* parent, const QString& name)
     : ShowEditScreen(context, parent, name, work()),
-      movements_(*this, {module1().MovimientosMos, store().memory.Obra.MosAmpRed, u"Modificar"_s, u"Añadir"_s, false,
-                         [this] { return !Navegable; }, [] {}}) {
+      movements_(*this, {module1().MovimientosMos, store().memory.Obra.MosAmpRed, u"Modificar"_s, u"Añadir"_s, true,
+                         false, [this] { return !Navegable; }, [] {}}) {
     movements_.setLocked(true);
     movements_.GotFocus = [this] {
         if (Navegable) BtnRegresar->setFocus(Qt::OtherFocusReason);

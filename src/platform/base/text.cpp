@@ -221,4 +221,13 @@ qint16 toInteger(double number) { return static_cast<qint16>(checkedRange(number
 
 qint32 toLong(double number) { return static_cast<qint32>(checkedRange(number, -2147483648.0, 2147483647.0)); }
 
+std::optional<double> numberOf(QStringView text) {
+    if (!IsNumeric(text)) return {};
+    try {
+        return Val(text);
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
 } // namespace zv

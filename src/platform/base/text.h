@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace zv {
 
@@ -12,6 +13,9 @@ bool IsNumeric(QStringView text);
 /// The number at the head of a text, 0 where there is none. Blanks, tabs and line feeds are dropped everywhere.
 /// Error 6 if it is too large, 13 for a type suffix after a fraction.
 double Val(QStringView text);
+
+/// The number of a text that reads as one and is not too large, else nothing.
+std::optional<double> numberOf(QStringView text);
 
 /// A text as a number, by the forms of IsNumeric. Error 13 if it is none, 6 if it is too large.
 double CDbl(QStringView text);

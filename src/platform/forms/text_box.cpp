@@ -34,8 +34,9 @@ void TextBox::clearHandlers() {
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (!isFocusGain(event->reason())) return;
-    pressGaveFocus_ = event->reason() == Qt::MouseFocusReason;
+    deselect(); // the tab key selects by itself: that is the handler's
     fire(GotFocus);
+    pressGaveFocus_ = event->reason() == Qt::MouseFocusReason && (hasSelectedText() || !hasFocus());
 }
 
 // The click that gives the focus must not undo the selection that gaining it made.
