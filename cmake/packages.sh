@@ -1,7 +1,7 @@
 # The Debian packages that the scripts need, and how a missing one is installed. Read by ./run, ./test and .ci/run.
 
 packages_build=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlitecpp-dev libsqlite3-dev libicu-dev
-    libcli11-dev fonts-comic-neue)
+    libcli11-dev mdbtools-dev pkgconf fonts-comic-neue)
 packages_test=(libgtest-dev libgmock-dev poppler-utils)
 packages_check=(git clang-format clang-tidy)
 

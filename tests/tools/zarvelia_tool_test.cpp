@@ -1,36 +1,13 @@
 // The companion tool as it is called from a shell: status, words, and what it leaves on the disk.
+#include "tool_call.h"
+
 #include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct Outcome {
-    int status;
-    QString words; ///< on its error channel
-};
-
-Outcome call(const QStringList& arguments) {
-    QProcess process;
-    process.start(QStringLiteral(ZV_TOOL), arguments);
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardError())};
-}
-
-QByteArray contents(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
-} // namespace
 
 TEST(Tool, MakesAnEmptyCatalogueOnce) {
     const QTemporaryDir scratch;

@@ -65,8 +65,9 @@ void requireCatalogue(const QString& path) {
     const QByteArray header = headerOf(path);
     if (header.isEmpty()) throw unrecognized(path, u"The file is empty."_s);
     if (header.startsWith(QByteArrayView("\x00\x01\x00\x00Standard ", 13)))
-        throw unrecognized(path, u"It is a catalogue of the old kind (a Jet database). Convert it into a new one with "
-                                 "the companion tool zarvelia-tool; the old file stays as it is."_s);
+        throw unrecognized(path, u"It is a catalogue of the old kind (a Jet database). The companion tool makes a "
+                                 "new one from it, in another folder: zarvelia-tool convert OLD.mdb FOLDER. The old "
+                                 "file stays as it is."_s);
     if (!header.startsWith("SQLite format 3")) throw unrecognized(path, u"It is no catalogue."_s);
     if (header.size() < kHeaderSize)
         throw RuntimeError(3049, u"Cannot open database '%1'. The file is damaged: it is cut off."_s.arg(path));
