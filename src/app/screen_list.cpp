@@ -8,7 +8,10 @@
 #include "editors/records1/work_screens.h"
 #include "editors/show_edit_screen.h"
 #include "listing/list_variants.h"
+#include "report/form_acerca_de.h"
+#include "report/form_informe.h"
 #include "report/form_presentacion.h"
+#include "report/help_page.h"
 #include "selection/select_variants.h"
 
 namespace zv::app {
@@ -81,11 +84,13 @@ std::vector<shell::ScreenEntry> screenList() {
         for (int function = 0; function < 4; ++function)
             for (int tab = 0; tab < 7; ++tab)
                 screens.push_back(kindEntries(store::kindOfTab(records, tab))[std::size_t(function)]);
-    for (const QString& name :
-         {u"FormInforme"_s, u"FormAyudaGeneral"_s, u"FormAyudaAnadir1"_s, u"FormAyudaAnadir2"_s, u"FormAyudaAnadir3"_s,
-          u"FormAyudaSeleccionar"_s, u"FormAyudaMostrar1"_s, u"FormAyudaMostrar2"_s, u"FormAyudaMostrar3"_s,
-          u"FormAyudaListar"_s, u"FormAyudaListar2"_s, u"FormAcercaDe"_s})
-        screens.push_back(entry<EmptyScreen>(name));
+    screens.push_back(entry<report::FormInforme>(u"FormInforme"_s));
+    for (const report::HelpPage& page : report::helpPages())
+        screens.push_back(
+            {page.form.toString(), [&page](Context& context, QWidget* parent, const QString& as) -> Screen* {
+                 return new report::HelpScreen(context, parent, as, page);
+             }});
+    screens.push_back(entry<report::FormAcercaDe>(u"FormAcercaDe"_s));
     return screens;
 }
 
