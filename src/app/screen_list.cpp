@@ -6,7 +6,9 @@
 #include "editors/records1/work_screens.h"
 #include "editors/show_edit_screen.h"
 #include "listing/list_variants.h"
+#include "listing/recording_list.h"
 #include "report/form_presentacion.h"
+#include "selection/recording_select.h"
 #include "selection/select_variants.h"
 
 namespace zv::app {
@@ -62,8 +64,8 @@ std::array<shell::ScreenEntry, 4> kindEntries(const store::KindInfo& kind) {
         return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
                 patternEntry<PlainGroupShowEdit>(show, kind), patternEntry<listing::ListScreen>(list, kind)};
     case Kind::Grabacion:
-        return {entry<EmptyScreen>(add), entry<EmptyScreen>(select), entry<EmptyScreen>(show),
-                entry<EmptyScreen>(list)};
+        return {entry<EmptyScreen>(add), entry<selection::FormReg1SelGrabacion>(select), entry<EmptyScreen>(show),
+                entry<listing::FormReg1LisGrabacion>(list)};
     default:
         return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
                 patternEntry<editors::ShowEditScreen>(show, kind), patternEntry<listing::ListScreen>(list, kind)};
