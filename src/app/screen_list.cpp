@@ -8,10 +8,12 @@
 #include "editors/records1/work_screens.h"
 #include "editors/show_edit_screen.h"
 #include "listing/list_variants.h"
+#include "listing/recording_list.h"
 #include "report/form_acerca_de.h"
 #include "report/form_informe.h"
 #include "report/form_presentacion.h"
 #include "report/help_page.h"
+#include "selection/recording_select.h"
 #include "selection/select_variants.h"
 
 namespace zv::app {
@@ -22,12 +24,6 @@ using shell::Screen;
 using store::Kind;
 
 namespace {
-
-/// A screen that is not built yet: an empty panel under its own name and number.
-class EmptyScreen : public Screen {
-  public:
-    using Screen::Screen;
-};
 
 template <class S>
 shell::ScreenEntry entry(const QString& name) {
@@ -67,8 +63,8 @@ std::array<shell::ScreenEntry, 4> kindEntries(const store::KindInfo& kind) {
         return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
                 patternEntry<PlainGroupShowEdit>(show, kind), patternEntry<listing::ListScreen>(list, kind)};
     case Kind::Grabacion:
-        return {entry<editors::FormReg1AnaGrabacion>(add), entry<EmptyScreen>(select),
-                entry<editors::FormReg1MosGrabacion>(show), entry<EmptyScreen>(list)};
+        return {entry<editors::FormReg1AnaGrabacion>(add), entry<selection::FormReg1SelGrabacion>(select),
+                entry<editors::FormReg1MosGrabacion>(show), entry<listing::FormReg1LisGrabacion>(list)};
     default:
         return {patternEntry<editors::AddScreen>(add, kind), patternEntry<selection::SelectScreen>(select, kind),
                 patternEntry<editors::ShowEditScreen>(show, kind), patternEntry<listing::ListScreen>(list, kind)};

@@ -62,7 +62,6 @@ void ListScreen::addChoice() {
     List = add<CheckList>(u"List"_s, {165, 6720, 2430, 960});
     List->setType(type::G, false);
     List->setToolTipText(u"Fields"_s);
-    for (const QString& caption : itemCaptions()) List->AddItem(caption);
     const auto button = [this](const QString& name, const QString& caption, const QString& tip, TwipsRect rect) {
         auto* made = add<Button>(name, rect);
         made->setText(caption);

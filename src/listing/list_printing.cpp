@@ -25,7 +25,7 @@ bool ListScreen::loadPicture(const QString& path, int side, PrintPicture& pictur
 QStringList ListScreen::values() {
     QStringList texts;
     for (int i = 0; i + 1 < itemCount(); ++i)
-        if (List->Selected(i)) texts += paperText(i);
+        if (isChosen(i)) texts += paperText(i);
     return texts;
 }
 
@@ -33,14 +33,16 @@ PrintOrder ListScreen::printOrder() {
     QStringList fields;
     for (const store::FieldRow& row : store::orderRows(kind_)) fields += row.caption;
     fields += store::FieldPlaceholder.toString();
+    QStringList directions;
+    for (const store::CriterionRow& row : store::orderDirections(kind_)) directions += row.caption.toString();
     PrintOrder order;
     order.CampoOrden = memory().MemoSel.CampoOrden;
     order.CriterioOrden = memory().MemoSel.CriterioOrden;
     order.lastField = static_cast<int>(fields.size()) - 1;
     order.chooseField = [fields](int index) { return fields.value(index); };
-    order.chooseCriterion = [](int index) {
-        const bool known = index >= 0 && index < static_cast<int>(std::size(store::OrderCriteria));
-        return known ? store::OrderCriteria[index].caption.toString() : QString();
+    // A list of one row has no other to choose.
+    order.chooseCriterion = [directions](int index) {
+        return directions.value(std::min(index, static_cast<int>(directions.size()) - 1));
     };
     return order;
 }

@@ -23,6 +23,7 @@ constexpr int PictureTop = 450;
 } // namespace
 
 void ListScreen::Form_Load() {
+    for (const QString& caption : itemCaptions()) List->AddItem(caption);
     LabNumRegSeleccion->setCaption(QString::number(memory().ContSel));
     LabNumRegSeleccion1->setCaption(QString::number(memory().ContSel));
     LabNumFiltros->setCaption(QString::number(memory().ContFil));
@@ -277,7 +278,7 @@ void ListScreen::fillPage() {
         Progress->setProgress(row);
         jet::Recordset& rows = Data().Recordset();
         if (rows.AbsolutePosition() == rows.RecordCount()) break;
-        rows.setAbsolutePosition(positionOf(row));
+        moveTo(positionOf(row));
         fillRow(row);
         if (pictureTicked()) showPicture(row);
     }

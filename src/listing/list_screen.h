@@ -10,7 +10,7 @@
 
 namespace zv::listing {
 
-class ListScreen : public shell::Screen, private PrintRecords {
+class ListScreen : public shell::Screen, protected PrintRecords {
   public:
     ListScreen(shell::Context& context, QWidget* parent, const QString& name, const store::KindInfo& kind);
 
@@ -29,6 +29,8 @@ class ListScreen : public shell::Screen, private PrintRecords {
     /// Whether the field is a number, to be aligned with its like.
     virtual bool isNumber(int item) const;
     QString picturePath() override;
+    QStringList values() override;
+    void moveTo(int position) override { Data().Recordset().setAbsolutePosition(position); }
     /// Whose page and zoom a new list starts anew.
     virtual store::ListMemory& listedMemory() { return memory().MemoLis; }
     QStringView columnOf(int item) const { return kind_.fields[std::size_t(itemFields_[std::size_t(item)])].column; }
@@ -39,6 +41,8 @@ class ListScreen : public shell::Screen, private PrintRecords {
     int itemCount() const { return static_cast<int>(CamposElegidos.size()); }
     bool isTicked(int item) const { return CamposElegidos[static_cast<std::size_t>(item)]; }
     bool pictureTicked() const { return CamposElegidos.back(); }
+    /// The ticks as they stand now, which the print goes by.
+    bool isChosen(int item) const { return List->Selected(item); }
 
   private:
     void addGrid();
@@ -71,9 +75,7 @@ class ListScreen : public shell::Screen, private PrintRecords {
     void markMoreRecords();
 
     int RecordCount() override { return Data().Recordset().RecordCount(); }
-    void moveTo(int position) override { Data().Recordset().setAbsolutePosition(position); }
     bool loadPicture(const QString& path, int side, PrintPicture& picture) override;
-    QStringList values() override;
     PrintOrder printOrder();
 
     const store::KindInfo& kind_;

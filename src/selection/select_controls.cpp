@@ -110,15 +110,16 @@ void SelectScreen::addOrderFrame() {
 }
 
 void SelectScreen::fillLists() {
-    fieldRows_ = store::fieldRows(kind_);
+    fieldRows_ = offeredFields();
     orderRows_ = store::orderRows(kind_);
+    directions_ = store::orderDirections(kind_);
     for (const store::FieldRow& row : fieldRows_) ComboCampo->AddItem(row.caption);
     ComboCampo->AddItem(store::FieldPlaceholder.toString());
     for (const store::CriterionRow& row : store::Criteria) ComboCriterio->AddItem(row.caption.toString());
     ComboCriterio->AddItem(store::CriterionPlaceholder.toString());
     for (const store::FieldRow& row : orderRows_) ComboCampoOrden->AddItem(row.caption);
     ComboCampoOrden->AddItem(store::FieldPlaceholder.toString());
-    for (const store::CriterionRow& row : store::OrderCriteria) ComboCriterioOrden->AddItem(row.caption.toString());
+    for (const store::CriterionRow& row : directions_) ComboCriterioOrden->AddItem(row.caption.toString());
 }
 
 void SelectScreen::paintBehind(QPainter& painter) {

@@ -7,13 +7,6 @@ namespace zv::selection {
 using namespace Qt::StringLiterals;
 using forms::Combo;
 
-namespace {
-
-const QString All = u"Todo"_s;
-const QString NoOrder = store::OrderCriteria[store::HistoricalRow].text.toString();
-
-} // namespace
-
 void SelectScreen::Form_Load() {
     fillLists();
     NumCampos = ComboCampo->ListCount();
@@ -58,7 +51,7 @@ void SelectScreen::ValoresInicio() {
         addPlaceholder(*ComboCampoOrden, NumCamposOrden, TextoCampoOrden);
     }
     ComboCriterioOrden->setEnabled(false);
-    ComboCriterioOrden->setListIndex(selection.CriterioOrden >= 0 ? selection.CriterioOrden : store::HistoricalRow);
+    ComboCriterioOrden->setListIndex(selection.CriterioOrden >= 0 ? selection.CriterioOrden : NumCriteriosOrden - 1);
 }
 
 void SelectScreen::ComboCampo_Click() {
@@ -80,7 +73,7 @@ void SelectScreen::ComboCampoOrden_Click() {
 
 void SelectScreen::ComboCriterioOrden_Click() {
     const int row = ComboCriterioOrden->ListIndex();
-    if (row >= 0) CriterioOrden = store::OrderCriteria[row].text.toString();
+    if (row >= 0) CriterioOrden = directions_[std::size_t(row)].text.toString();
 }
 
 void SelectScreen::TxtValFiltro_Change() {
@@ -121,13 +114,13 @@ void SelectScreen::setOrderLists() {
         ComboCriterioOrden->setListIndex(selection.CriterioOrden);
     } else {
         ComboCampoOrden->setListIndex(0);
-        ComboCriterioOrden->setListIndex(store::HistoricalRow);
+        ComboCriterioOrden->setListIndex(NumCriteriosOrden - 1);
     }
 }
 
 void SelectScreen::BtnNueva_Click() {
     ValoresInicio();
-    OpcionSQL.clear();
+    beginStatement();
     Operador.clear();
     EtiquetaOperador.clear();
     Valor.clear();
@@ -143,7 +136,7 @@ void SelectScreen::BtnNueva_Click() {
 
 void SelectScreen::BtnTodo_Click() {
     ValoresInicio();
-    OpcionSQL = All;
+    chooseAll();
     ValorFiltro.clear();
     LabNumFiltros->setCaption(u"0"_s);
     LabNumRegTotal->setCaption(QString::number(memory().Cont));
@@ -175,7 +168,7 @@ QString SelectScreen::term() const {
 void SelectScreen::BtnAnadir_Click() {
     const QString typed = TxtValFiltro->Text();
     if (typed == TextoValor || Campo.isEmpty() || Criterio.isEmpty() || Trim(typed).isEmpty()) return;
-    const bool first = OpcionSQL.isEmpty();
+    const bool first = ListFiltros->ListCount() == 0;
     const QString words = ComboCampo->Text() + u' ' + ComboCriterio->Text() + u" '"_s + typed + u'\'';
     ValorFiltro = first ? words : u'(' + ValorFiltro + u' ' + EtiquetaOperador + u' ' + words + u") "_s;
     EtiquetaOperador.prepend(u"       "_s);
@@ -183,7 +176,7 @@ void SelectScreen::BtnAnadir_Click() {
     ListFiltros->AddItem(ComboCampo->Text());
     ListFiltros->AddItem(ComboCriterio->Text());
     ListFiltros->AddItem(u'\'' + Valor + u'\'');
-    OpcionSQL = first ? term() : u'(' + OpcionSQL + Operador + term() + u')';
+    extendStatement();
     rememberRows();
     addPlaceholder(*ComboCampo, NumCampos, TextoCampo);
     addPlaceholder(*ComboCriterio, NumCriterios, TextoCriterio);
@@ -200,10 +193,9 @@ void SelectScreen::BtnAnadir_Click() {
     if (full) MsgBox(store::MensaMax20Filtros, box::Warning);
     ComboCampoOrden_Click();
     ComboCriterioOrden_Click();
-    store::SelectionMemory& selection = memory().MemoSel;
-    selection.NT = 0;
-    selection.OpcionSQL = OpcionSQL;
-    selection.ValorFiltro = ValorFiltro;
+    memory().MemoSel.NT = 0;
+    rememberStatement();
+    memory().MemoSel.ValorFiltro = ValorFiltro;
 }
 
 void SelectScreen::rememberRows() {
@@ -228,8 +220,8 @@ void SelectScreen::join(const QString& operador, const forms::Button& button) {
 
 QString SelectScreen::statement() const {
     QString text = kind_.selectAll();
-    if (OpcionSQL != All) text += u" WHERE "_s + OpcionSQL;
-    if (CriterioOrden != NoOrder) text += u" ORDER BY "_s + CampoOrden + CriterioOrden;
+    if (OpcionSQL != AllRecords) text += u" WHERE "_s + OpcionSQL;
+    if (CriterioOrden != store::NoOrder) text += u" ORDER BY "_s + CampoOrden + CriterioOrden;
     return text;
 }
 
@@ -246,11 +238,18 @@ void SelectScreen::accept() {
     if (CriterioOrden.isEmpty() || CampoOrden.isEmpty()) return;
     Data().RecordSource = kind_.selectAll();
     Data().Refresh();
-    store::KindMemory& of = memory();
-    if (OpcionSQL == All) of.MemoSel.Lista = u"#"_s;
+    store::SelectionMemory& selection = memory().MemoSel;
+    if (OpcionSQL == AllRecords) selection.Lista = u"#"_s;
     OpcionSQL = statement();
     Data().RecordSource = OpcionSQL;
     Data().Refresh();
+    showAccepted();
+    selection.CampoOrden = static_cast<qint16>(ComboCampoOrden->ListIndex());
+    selection.CriterioOrden = static_cast<qint16>(ComboCriterioOrden->ListIndex());
+    finishAccepted();
+}
+
+void SelectScreen::showAccepted() {
     jet::Recordset& rows = Data().Recordset();
     if (rows.RecordCount() != 0) {
         rows.MoveLast();
@@ -260,17 +259,19 @@ void SelectScreen::accept() {
         LabNumReg->setCaption(u"0"_s);
     }
     LabNumRegFiltros->setCaption(LabNumFiltros->Caption());
+    store::KindMemory& of = memory();
     of.ContSel = toLong(Val(LabNumReg->Caption()));
     of.ContFil = toLong(Val(LabNumFiltros->Caption()));
     of.Posicion = 1;
     LabOpcionSQL->setText(ValorFiltro);
     LabOpcionSQL->setToolTipText(ValorFiltro);
-    of.MemoSel.CampoOrden = static_cast<qint16>(ComboCampoOrden->ListIndex());
-    of.MemoSel.CriterioOrden = static_cast<qint16>(ComboCriterioOrden->ListIndex());
+}
+
+void SelectScreen::finishAccepted() {
     clearStatement();
-    of.MemoSel.NT = 2;
-    of.MemoSel.OpcionSQL.clear();
-    of.MemoSel.ValorFiltro = LabOpcionSQL->Text();
+    store::SelectionMemory& selection = memory().MemoSel;
+    selection.forgetConstruction();
+    selection.ValorFiltro = LabOpcionSQL->Text();
     ValoresInicio();
     BtnNueva->setFocus(Qt::OtherFocusReason); // the button that was pressed is disabled by now
 }
@@ -289,10 +290,9 @@ void SelectScreen::recover(int error) {
     clearStatement();
     store::SelectionMemory& selection = memory().MemoSel;
     selection.Lista = u"#"_s;
-    selection.NT = 2;
-    selection.OpcionSQL.clear();
+    selection.forgetConstruction();
     selection.ValorFiltro.clear();
-    Data().RecordSource = kind_.selectAll() + u' ';
+    Data().RecordSource = kind_.selectAll() + recoveredTail().toString();
     Data().Refresh();
     if (Data().Recordset().RecordCount() != 0) Data().Recordset().MoveFirst();
     ValoresInicio();
@@ -330,7 +330,7 @@ void SelectScreen::Carga() {
 
 void SelectScreen::takeUpFilters() {
     const store::KindMemory& of = memory();
-    OpcionSQL = of.MemoSel.OpcionSQL;
+    takeUpStatement();
     ValorFiltro = of.MemoSel.ValorFiltro;
     TxtValFiltro->setText(TextoValor);
     enableFilter(false);

@@ -50,6 +50,14 @@ jet::DataControl& Store::Data(int form, int channel) {
     return channels[std::size_t(channel)];
 }
 
+jet::DataControl Store::query(const QString& source) {
+    jet::DataControl rows(engine_);
+    rows.DatabaseName = Data(1, 0).DatabaseName;
+    rows.RecordSource = source;
+    rows.Refresh();
+    return rows;
+}
+
 void Store::write(int form, int channel, int count, bool add, Campos& campos) {
     try {
         if (count >= Campos::Columns || count < 0) return;

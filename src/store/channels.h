@@ -48,6 +48,9 @@ class Store {
     jet::DataControl& Data(int form, int channel);
     jet::DataControl& Data(Kind kind) { return Data(info(kind).form, info(kind).channel); }
 
+    /// A recordset of its own beside the channels, already refreshed: for reads that leave them as they stand.
+    jet::DataControl query(const QString& source);
+
     /// Text of a hidden bound control: the field's value in the channel's current row.
     QString bound(Kind kind, int field) {
         return Data(kind).boundText(info(kind).fields[std::size_t(field)].column.toString());

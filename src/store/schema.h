@@ -81,9 +81,10 @@ struct KindInfo {
     ListLoad listLoad = {};
     QStringView drawing; ///< picture that stands for the lack of one
     std::span<const Field> fields;
-    int listItems = 0;                          ///< items of the list of fields; 0 where they are the listed fields
-    std::span<const QStringView> clauses = {};  ///< WHERE texts that the selection keeps, where it has several
-    std::span<const QStringView> nameRows = {}; ///< captions in Select that stand for the name, where it has several
+    int listItems = 0;                           ///< items of the list of fields; 0 where they are the listed fields
+    std::span<const QStringView> clauses = {};   ///< WHERE texts that the selection keeps, where it has several
+    std::span<const QStringView> onlyOrder = {}; ///< words of the two ordering lists, where each has one row
+    std::span<const QStringView> nameRows = {};  ///< captions in Select that stand for the name, where it has several
 
     /// Position of a column in `fields`, -1 for none.
     int indexOf(QStringView column) const;

@@ -174,6 +174,7 @@ inline constexpr Field Internet[] = {
 };
 
 inline constexpr QStringView RecordingClauses[] = {u"Compositor", u"Obra", u"Orquesta", u"Director", u"Interprete", u"Soporte", u"Grabacion"};
+inline constexpr QStringView RecordingOrder[] = {u"Field", u"Histórical"};
 inline constexpr QStringView OrchestraNames[] = {u"Orchestra", u"Ensemble", u"Choir"};
 
 inline constexpr KindInfo Kinds[] = {
@@ -183,7 +184,7 @@ inline constexpr KindInfo Kinds[] = {
     {.kind = Kind::Orquesta, .table = u"Orquesta", .shortName = u"Orq", .channel = 3, .tab = 2, .title = u"Orchestra-Ensemble", .fieldCount = 5, .partOfRecording = true, .listTicks = u"MemoLisOrqCampo", .drawing = u"orquesta", .fields = Orquesta, .nameRows = OrchestraNames},
     {.kind = Kind::Soporte, .table = u"Soporte", .shortName = u"Sop", .channel = 4, .tab = 5, .title = u"Format", .fieldCount = 11, .valueLimit = 70, .partOfRecording = true, .shownKey = &Module1::IdSoporteMos, .saveTail = u"", .listTicks = u"MemoLisSopCampo", .drawing = u"soporte", .fields = Soporte},
     {.kind = Kind::Interprete, .table = u"Interprete", .shortName = u"Int", .channel = 5, .tab = 4, .title = u"Performer", .fieldCount = 7, .valueLimit = 50, .partOfRecording = true, .identifierTip = false, .listTicks = u"MemoLisIntCampo", .drawing = u"interprete", .fields = Interprete},
-    {.kind = Kind::Grabacion, .table = u"Grabacion", .shortName = u"Gra", .channel = 6, .tab = 6, .title = u"Recording", .fieldCount = 39, .hashKeptOut = true, .listTicks = u"MemoLisGraCampo", .drawing = u"grabacion", .fields = Grabacion, .listItems = 34, .clauses = RecordingClauses},
+    {.kind = Kind::Grabacion, .table = u"Grabacion", .shortName = u"Gra", .channel = 6, .tab = 6, .title = u"Recording", .fieldCount = 39, .hashKeptOut = true, .listTicks = u"MemoLisGraCampo", .drawing = u"grabacion", .fields = Grabacion, .listItems = 34, .clauses = RecordingClauses, .onlyOrder = RecordingOrder},
     {.kind = Kind::Instrumento, .table = u"Instrumento", .shortName = u"Ins", .form = 2, .channel = 0, .tab = 0, .title = u"Instrument", .fieldCount = 7, .valueLimit = 50, .listTicks = u"MemoLisInsCampo", .drawing = u"instrumento", .fields = Instrumento},
     {.kind = Kind::Agrupacion, .table = u"Agrupacion", .shortName = u"Agr", .form = 2, .channel = 1, .tab = 1, .title = u"Grouping", .fieldCount = 7, .listTicks = u"MemoLisAgrCampo", .drawing = u"agrupacion", .fields = Agrupacion},
     {.kind = Kind::Evento, .table = u"Evento", .shortName = u"Eve", .form = 2, .channel = 2, .tab = 2, .title = u"Event", .fieldCount = 7, .listTicks = u"MemoLisEveCampo", .drawing = u"evento", .fields = Evento},

@@ -17,9 +17,15 @@ std::vector<FieldRow> fieldRows(const KindInfo& kind) {
 }
 
 std::vector<FieldRow> orderRows(const KindInfo& kind) {
+    if (!kind.onlyOrder.empty()) return {{kind.onlyOrder[0].toString(), {}}};
     std::vector<FieldRow> rows = fieldRows(kind);
     std::erase_if(rows, [](const FieldRow& row) { return row.column == u"Notas"; });
     return rows;
+}
+
+std::vector<CriterionRow> orderDirections(const KindInfo& kind) {
+    if (!kind.onlyOrder.empty()) return {{kind.onlyOrder[1], NoOrder}};
+    return {std::begin(OrderCriteria), std::end(OrderCriteria)};
 }
 
 } // namespace zv::store

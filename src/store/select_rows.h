@@ -28,13 +28,16 @@ inline constexpr CriterionRow Criteria[] = {
     {u"Same as", u" = "},      {u"Contains", u" LIKE "}, {u"Does not contain", u" NOT LIKE "},
     {u"Smaller than", u" < "}, {u"Bigger than", u" > "},
 };
-/// "Nada" stands for no ordering: the records come in the table's own order.
+/// Stands for no ordering: the records come in the table's own order.
+inline constexpr QStringView NoOrder = u"Nada";
 inline constexpr CriterionRow OrderCriteria[] = {
     {u"Ascending", u" ASC"},
     {u"Descending", u" DESC"},
-    {u"Historical", u"Nada"},
+    {u"Historical", NoOrder},
 };
-inline constexpr int HistoricalRow = 2;
+
+/// The directions on offer for the ordering.
+std::vector<CriterionRow> orderDirections(const KindInfo& kind);
 
 inline constexpr QStringView FieldPlaceholder = u"              FIELD";
 inline constexpr QStringView CriterionPlaceholder = u"            CRITERIA";

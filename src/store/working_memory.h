@@ -20,6 +20,12 @@ struct SelectionMemory {
     std::array<QString, 7> Opciones;     ///< the same for each table, where the kind's selection keeps several
 
     void reset() { *this = SelectionMemory{}; }
+    /// Nothing is under construction any more.
+    void forgetConstruction() {
+        NT = 2;
+        OpcionSQL.clear();
+        Opciones.fill({});
+    }
 };
 
 /// What a List screen comes back to.
