@@ -203,7 +203,7 @@ TEST_F(ConvertGenuine, LeavesOutARowThatWasMovedAndThenRemoved) {
     const auto removeFirstMoved = [&] {
         for (qsizetype page = kPage; page < bytes.size(); page += kPage) {
             if (bytes[page] != 1 || bytes.mid(page + 4, 4) == "LVAL") continue;
-            for (int slot = 0; slot < qFromLittleEndian<quint16>(at(page + 12)); ++slot) {
+            for (qsizetype slot = 0; slot < qFromLittleEndian<quint16>(at(page + 12)); ++slot) {
                 const auto place = qFromLittleEndian<quint16>(at(page + 14 + 2 * slot));
                 if ((place & 0xC000) != 0x4000) continue;
                 qToLittleEndian<quint16>(place | 0xC000, at(page + 14 + 2 * slot));
