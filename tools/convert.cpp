@@ -89,7 +89,7 @@ QByteArray copyAside(const QString& old, const QString& part) {
     const pid_t child = ::fork();
     if (child == 0) copyAndTell(old, part, channel[1]);
     ::close(channel[1]);
-    const QByteArray words = child < 0 ? QByteArray() : allOf(channel[0]);
+    QByteArray words = child < 0 ? QByteArray() : allOf(channel[0]);
     ::close(channel[0]);
     if (child < 0) throw ConvertError(u"No process could be started."_s);
     int status = 0;

@@ -118,7 +118,7 @@ QString unpacked(const QByteArray& bytes) {
     return text;
 }
 
-int pageSize(const QByteArray& header) { return header[kVersionAt] == 0 ? kOldPage : kPage; }
+qint64 pageSize(const QByteArray& header) { return header[kVersionAt] == 0 ? kOldPage : kPage; }
 
 } // namespace
 
