@@ -89,8 +89,9 @@ TEST_P(EveryKind, aRecordIsChangedInEveryFieldAndRemoved) {
     }
     // Only what a recording may point to is asked for.
     if (kind.form == 1)
-        boxes.expect(u"ATTENTION:\r\rThis record will be also removed from 'Recording'.\r\rWould you like to continue?"_s,
-                     68, box::Yes);
+        boxes.expect(
+            u"ATTENTION:\r\rThis record will be also removed from 'Recording'.\r\rWould you like to continue?"_s, 68,
+            box::Yes);
     hands->click(u"BtnEliminar"_s);
     hands->click(u"BtnGuardar"_s);
     EXPECT_EQ(identifiers(), (QStringList{u"Row 1"_s, u"Row 3"_s}));

@@ -77,7 +77,8 @@ class Group : public Desk, public ::testing::WithParamInterface<GroupCase> {
             EXPECT_EQ(grid().TextMatrix(row, 0), g.row.arg(keys.last()));
         }
         if (g.kind == Kind::Interprete) {
-            EXPECT_EQ(hands->text(u"LabNumeroInterpretes"_s), keys.isEmpty() ? QString() : QString::number(keys.size()));
+            EXPECT_EQ(hands->text(u"LabNumeroInterpretes"_s),
+                      keys.isEmpty() ? QString() : QString::number(keys.size()));
         }
         return keys.join(u' ');
     }

@@ -103,8 +103,8 @@ TEST_F(WorkAdd, aWorkHas150MovementsAtTheMost) {
     identify();
     save();
     // 149 movements of 3661 seconds and one of 2.
-    EXPECT_EQ(storedMovements(), QStringList{u"m#"_s.repeated(149) + u"last#|"_s + u" 3661#"_s.repeated(149) +
-                                             u" 2#|545491|150"_s});
+    EXPECT_EQ(storedMovements(),
+              QStringList{u"m#"_s.repeated(149) + u"last#|"_s + u" 3661#"_s.repeated(149) + u" 2#|545491|150"_s});
     hands->go(showNumber);
     EXPECT_EQ(grid().Rows(), 150);
     EXPECT_EQ(grid().TextMatrix(149, 0), u"last"_s);

@@ -73,8 +73,7 @@ class WorkDesk : public Desk {
     QString layout() {
         auto& button = hands->get<forms::Button>(u"BtnAMList"_s);
         auto& name = box(u"TxtMovimiento"_s);
-        return u"%1 grid %2 %3 column %4 name %5 %6 button %7 %8"_s
-            .arg(hands->text(u"LabExpandir"_s))
+        return u"%1 grid %2 %3 column %4 name %5 %6 button %7 %8"_s.arg(hands->text(u"LabExpandir"_s))
             .arg(grid().Left())
             .arg(grid().Width())
             .arg(grid().Rows() ? grid().ColWidth(0) : 0)

@@ -107,8 +107,7 @@ TEST_F(WorkShowEdit, aPickedMovementBlocksTheButtonUntilTheScreenComesAnew) {
 
 TEST_F(WorkShowEdit, lockedMovementsHandTheFocusOn) {
     open({u"'a#', ' 90#', 90, 1"_s});
-    const QString controls[] = {u"TxtMovimiento"_s, u"TxtHoras"_s, u"TxtMinutos"_s, u"TxtSegundos"_s,
-                                u"MSFlexGrid1"_s};
+    const QString controls[] = {u"TxtMovimiento"_s, u"TxtHoras"_s, u"TxtMinutos"_s, u"TxtSegundos"_s, u"MSFlexGrid1"_s};
     for (const QString& name : controls) {
         hands->get<QWidget>(name).setFocus(Qt::MouseFocusReason);
         EXPECT_EQ(focus(), u"BtnRegresar"_s) << name.toStdString();

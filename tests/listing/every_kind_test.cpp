@@ -35,14 +35,15 @@ TEST_P(ListWords, AllFieldsAreListedAndPrinted) {
     hands->tickAll();
     hands->click(u"BtnListar"_s);
     const QString empty = blanks.join(u'|') + u'\n';
-    EXPECT_EQ(hands->page(), u"No.|"_s + captions.join(u'|') + u"\n1|"_s + cells.join(u'|') + u"\n2|"_s + empty +
-                                 u"3|"_s + empty);
+    EXPECT_EQ(hands->page(),
+              u"No.|"_s + captions.join(u'|') + u"\n1|"_s + cells.join(u'|') + u"\n2|"_s + empty + u"3|"_s + empty);
     EXPECT_EQ(hands->text(u"LabNumCampos"_s), QString::number(captions.size() + 1));
 
     hands->click(u"BtnImprimir"_s);
     const QStringList lines = printers.printer.operations();
     EXPECT_TRUE(lines.filter(u"''"_s + GetParam().title.toString() + u"''"_s).size() == 1);
-    EXPECT_TRUE(lines.filter(u"'1- /"_s + paper.join(QString()) + u'\'').size() == 1) << lines.join(u'\n').toStdString();
+    EXPECT_TRUE(lines.filter(u"'1- /"_s + paper.join(QString()) + u'\'').size() == 1)
+        << lines.join(u'\n').toStdString();
     EXPECT_TRUE(lines.filter(u"'2- /"_s + dashes.join(QString()) + u'\'').size() == 1);
     EXPECT_TRUE(lines.filter(u"'3- /"_s + dashes.join(QString()) + u'\'').size() == 1);
 }

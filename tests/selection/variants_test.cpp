@@ -116,7 +116,8 @@ TEST_F(SelectOrchestra, CarriesTheKindOfBodyWithAName) {
 
     selectOne(u"Ensemble"_s, u"Contains"_s, u"vega"_s);
     next(u"BtnO"_s, u"Choir"_s, u"Same as"_s, u"Vega"_s);
-    EXPECT_EQ(selection().OpcionSQL, u"(Nombre LIKE '*vega*' AND OrqGrpCor='2' OR Nombre = 'Vega' AND OrqGrpCor='3')"_s);
+    EXPECT_EQ(selection().OpcionSQL,
+              u"(Nombre LIKE '*vega*' AND OrqGrpCor='2' OR Nombre = 'Vega' AND OrqGrpCor='3')"_s);
     accept();
     EXPECT_EQ(ids(), u"1 2 3"_s) << "AND binds tighter";
 
@@ -206,10 +207,10 @@ TEST_F(SelectInternet, ReadsTheNumberOfALaterFilter) {
     struct Case {
         QString criterion, value, clause;
     };
-    for (const Case& c : {Case{u"Bigger than"_s, u"02001"_s, u"Fecha > 2001)"_s},
-                          Case{u"Smaller than"_s, u" 1e3"_s, u"Fecha < 1000)"_s},
-                          Case{u"Same as"_s, u"MMI"_s, u"Fecha = -1)"_s},
-                          Case{u"Contains"_s, u"02001"_s, u"Fecha LIKE '*02001*')"_s}}) {
+    for (const Case& c :
+         {Case{u"Bigger than"_s, u"02001"_s, u"Fecha > 2001)"_s},
+          Case{u"Smaller than"_s, u" 1e3"_s, u"Fecha < 1000)"_s}, Case{u"Same as"_s, u"MMI"_s, u"Fecha = -1)"_s},
+          Case{u"Contains"_s, u"02001"_s, u"Fecha LIKE '*02001*')"_s}}) {
         selectOne(u"Date"_s, u"Bigger than"_s, u"02001"_s);
         hands->click(u"BtnY"_s);
         add(u"Date"_s, c.criterion, c.value);

@@ -101,17 +101,17 @@ TEST_F(Memory, irregularNamesAreKept) {
     };
     expectLines(u"Obra"_s, u"Director"_s,
                 {u"MemoObraObra = \"\""_s, u"MemoObraNmeroCatalogo = \"\""_s, u"MemoObraMovimientosTiempo = \"\""_s,
-                 u"MemoObraTiempoTotal = \"\""_s, u"MemoObraNumeroMovimientos = \"\""_s,
-                 u"MemoObraRedAmp = False"_s});
+                 u"MemoObraTiempoTotal = \"\""_s, u"MemoObraNumeroMovimientos = \"\""_s, u"MemoObraRedAmp = False"_s});
     expectLines(u"Orquesta"_s, u"Soporte"_s, {u"MemoOrqOrqGrpCor = \"\""_s});
     expectLines(u"Soporte"_s, u"Interprete"_s, {u"MemoSopNumeroCatalogo = \"\""_s});
     expectLines(u"Interprete"_s, u"Grabacion"_s, {u"MemoIntApellidos = \"\""_s, u"MemoIntNotas = \"\""_s});
     expectLines(u"Grabacion"_s, u"Instrumento"_s,
-                {u"MemoGraRedAmp = False"_s,
-                 u"MemoSelGraOpcionSQLCompositor = \"\""_s, u"MemoSelGraOpcionSQLObra = \"\""_s,
-                 u"MemoSelGraOpcionSQLOrquesta = \"\""_s, u"MemoSelGraOpcionSQLDirector = \"\""_s,
-                 u"MemoSelGraOpcionSQLInterprete = \"\""_s, u"MemoSelGraOpcionSQLSoporte = \"\""_s,
-                 u"MemoSelGraOpcionSQLGrabacion = \"\""_s, u"MemoSelGraNT = 2"_s, u"MemoSelGraLista = \"#\""_s});
+                {u"MemoGraRedAmp = False"_s, u"MemoSelGraOpcionSQLCompositor = \"\""_s,
+                 u"MemoSelGraOpcionSQLObra = \"\""_s, u"MemoSelGraOpcionSQLOrquesta = \"\""_s,
+                 u"MemoSelGraOpcionSQLDirector = \"\""_s, u"MemoSelGraOpcionSQLInterprete = \"\""_s,
+                 u"MemoSelGraOpcionSQLSoporte = \"\""_s, u"MemoSelGraOpcionSQLGrabacion = \"\""_s,
+                 u"MemoSelGraNT = 2"_s, u"MemoSelGraLista = \"#\""_s});
+    // What only one kind has stands behind all kinds.
     expectLines(u"Internet"_s, {},
                 {u"MemoIntTitulo = \"\""_s, u"MemoIntNotas = \"\""_s, u"MemoAnaObraAmpRed = False"_s,
                  u"MemoMosObraAmpRed = False"_s, u"MemoOrqSelect = 0"_s, u"MemoAnaGraNotas = \"\""_s,
