@@ -65,8 +65,9 @@ TEST_F(HelpTest, everyPageSaysItsPoints) {
         for (char letter = 'A'; letter <= page.last; ++letter) expected += QChar::fromLatin1(letter);
         EXPECT_EQ(letters, expected) << page.form;
         for (const auto& [number, statement] : Statements)
-            if (number == page.number)
+            if (number == page.number) {
                 EXPECT_TRUE(words.toPlainText().contains(QString::fromUtf8(statement))) << statement;
+            }
         QString caption;
         for (const QLabel* label : hands->screen()->findChildren<QLabel*>())
             if (label->toolTip() == u"Página"_s) caption += label->text();

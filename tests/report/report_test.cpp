@@ -105,6 +105,7 @@ TEST_F(ReportTest, tellsWhatTheScreensDid) {
     hands->click(u"BtnAceptar"_s);
     hands->go(51);
     hands->tick({u"Entity"_s, u"City"_s, u"Image"_s});
+    hands->click(u"BtnListar"_s);
     hands->go(30);
     add(u"TxtEntidad"_s, u"Duo"_s); // the selection is whole again
     hands->go(15);
