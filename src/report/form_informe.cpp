@@ -15,8 +15,9 @@ namespace {
 constexpr TwipsRect Table{165, 735, 9990, 6045}, Head{165, 735, 9990, 600};
 constexpr int RowTop = 1380, RowPitch = 330, RuleTop = 6030, SumTop = 6060, ProductTop = 6405;
 constexpr int CaptionLeft = 285, CaptionWidth = 2175;
-constexpr int FigureEnd = 45; ///< a figure ends so far before its column's right edge
-constexpr int LineGap = 52;   ///< a vertical line stands so far left of its group
+constexpr int FigureEnd = 45;  ///< a figure ends so far before its column's right edge
+constexpr int LineGap = 52;    ///< a vertical line stands so far left of its group
+constexpr int HeadingGap = 36; ///< a heading may go so far beyond its columns, short of the lines
 constexpr int Radius = 45;
 constexpr TwipsRect Signature{4410, 7290, 1500, 360};
 constexpr Staff StaffLeft{165, 4245, 7470, 60, false, false}, StaffRight{5910, 4245, 7470, 60, false, false};
@@ -45,7 +46,7 @@ FormInforme::FormInforme(shell::Context& context, QWidget* parent, const QString
 
 void FormInforme::addHeadings() {
     for (const ReportGroup& group : ReportGroups)
-        dress(add<Label>({}, {group.left() - LineGap, 765, group.width() + 2 * LineGap, 285}), Role::Heading,
+        dress(add<Label>({}, {group.left() - HeadingGap, 765, group.width() + 2 * HeadingGap, 285}), Role::Heading,
               group.heading.toString(), type::G, true, Qt::AlignCenter)
             ->setBackColor(colour::GridHead);
     for (const ReportColumn& column : ReportColumns) {
@@ -182,19 +183,19 @@ void FormInforme::paintBehind(QPainter& painter) {
     draw::box(painter, table, colour::ZebraLight, colour::Edge2, line, s.px(Radius));
     // The head keeps the round corners of the table above, and ends in a line.
     painter.save();
-    painter.setClipRect(QRect(head.left(), head.top(), head.width(), head.height()));
+    painter.setClipRect(head);
     draw::box(painter, table, colour::GridHead, colour::Edge2, line, s.px(Radius));
     painter.restore();
     const auto across = [&](int top, const QColor& colour) {
-        painter.fillRect(QRect(table.left() + line, s.px(top), table.width() - 2 * line, line), colour);
+        painter.fillRect(QRect(table.left() + line, top, table.width() - 2 * line, line), colour);
     };
     for (int row = 1; row < ReportRowCount; row += 2) {
         const QRect band = s.rect(rowRect(row));
         painter.fillRect(band.adjusted(line, 0, -line, 0), rowGround(row));
     }
-    across(Head.Top + Head.Height, colour::Edge2);
-    across(RuleTop, colour::Edge);
-    across(SumTop + RowPitch, colour::Edge3);
+    across(head.bottom() + 1 - line, colour::Edge2);
+    across(s.px(RuleTop), colour::Edge);
+    across(s.px(SumTop + RowPitch), colour::Edge3);
     for (const ReportGroup& group : ReportGroups) {
         const int x = s.px(group.left() - LineGap);
         painter.fillRect(QRect(x, table.top() + line, line, table.height() - 2 * line), colour::Edge3);

@@ -21,8 +21,8 @@ constexpr int Radius = 30, BarHeight = 36, ButtonType = 105, BadgeSize = 254;
 void paintCaption(QPainter& painter, const QRect& rect, const QString& text, const QColor& colour, const Scale& scale) {
     QFont font = scale.font(ButtonType, true);
     font.setPixelSize(scale.px(ButtonType));
-    const int room = rect.width() - 2 * scale.hairline();
-    while (font.pixelSize() > 5 && QFontMetrics(font).horizontalAdvance(text) > room)
+    const int room = rect.width() - scale.hairline();
+    while (font.pixelSize() > 6 && QFontMetrics(font).horizontalAdvance(text) > room)
         font.setPixelSize(font.pixelSize() - 1);
     painter.setFont(font);
     painter.setPen(colour);

@@ -41,7 +41,7 @@ constexpr Shape ListControls[] = {
 void appendListControls(Shapes& shapes) {
     append(shapes, ListControls);
     for (int row = 0; row < 4; ++row) {
-        shapes.push_back(box(225, 6760 + 225 * row, 150, 150));
+        shapes.push_back({Draw::Paper, {225, 6760 + 225 * row, 150, 150}});
         shapes.push_back(written(450, 6700 + 225 * row, 900 + 150 * (row % 3)));
     }
 }

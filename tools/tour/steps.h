@@ -36,6 +36,11 @@ void showGrouping(Tour& tour);
 void filterGroupings(Tour& tour);
 void printGroupings(Tour& tour);
 
+// Report, help, about: steps_report.cpp.
+void readReport(Tour& tour);
+void readHelp(Tour& tour);
+void readHelpLarge(Tour& tour);
+
 // The window: steps_window.cpp.
 void everyTab(Tour& tour);
 void smallWindow(Tour& tour);

@@ -30,15 +30,6 @@ QString formName(int number) {
 /// Pages of the help behind its first ones have no tab: a button leads on to them.
 bool isFurtherPage(int number) { return number == 60 || number == 61 || number == 64 || number == 65 || number == 67; }
 
-void turnPage(Tour& tour, int number) {
-    if (tour.hands().screen()->findChild<QWidget*>(u"BtnSiguiente"_s)) {
-        tour.hands().click(u"BtnSiguiente"_s);
-        return;
-    }
-    tour.window().Solapas().OcultarFormulario();
-    tour.window().Solapas().MostrarFormulario(number);
-}
-
 /// The block of screen and tabs fits the window, centred to the pixel, and fills it at the scale wanted.
 void resize(Tour& tour, QSize size, double scale) {
     tour.window().resize(size);
@@ -55,7 +46,7 @@ void resize(Tour& tour, QSize size, double scale) {
 void everyTab(Tour& tour) {
     for (int number = FirstNumber; number <= LastNumber; ++number) {
         if (isFurtherPage(number))
-            turnPage(tour, number);
+            tour.hands().click(u"BtnSiguiente"_s);
         else
             tour.hands().go(number);
         tour.same(u"number of the screen"_s, number, tour.window().Solapas().VentanaMostrandose);

@@ -1,0 +1,89 @@
+// The report, the help and the screen about the program.
+#include "tour/steps.h"
+#include <QApplication>
+#include <QTextEdit>
+
+namespace zv::tour {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int ReportNumber = 57, GeneralNumber = 58, AddNumber = 1, AboutNumber = 68;
+
+/// The pages of each chain of help, by the number of its first one.
+const std::vector<std::vector<int>> Chains{{58}, {59, 60, 61}, {62}, {63, 64, 65}, {66, 67}};
+
+void resize(Tour& tour, QSize size) {
+    tour.window().resize(size);
+    QApplication::processEvents();
+}
+
+} // namespace
+
+// Nine composers were added and one of them removed, all eight are selected; of three groupings two are.
+void readReport(Tour& tour) {
+    tour.hands().go(ReportNumber);
+    tour.hands().screen(u"FormInforme"_s);
+    const std::pair<const char*, const char*> figures[] = {{"LabComNumRegTotal", "8"},
+                                                           {"LabComNumRegNuevos", "9"},
+                                                           {"LabComNumRegEliminados", "1"},
+                                                           {"LabComNumRegSeleccion", "8"},
+                                                           {"LabComNumFiltros", "0"},
+                                                           {"LabComOrden", "1"},
+                                                           {"LabAgrNumRegTotal", "3"},
+                                                           {"LabAgrNumRegSeleccion", "2"},
+                                                           {"LabAgrNumFiltros1", "1"},
+                                                           {"LabObraOrden", "0"},
+                                                           {"LabSumaNumRegTotal", "11"},
+                                                           {"LabSumaNumRegNuevos", "12"},
+                                                           {"LabSumaNumRegEliminados", "1"},
+                                                           {"LabSumaNumRegSeleccion", "10"},
+                                                           {"LabSumaOrden", "-"},
+                                                           {"LabRxCNumRegTotal", "69"},
+                                                           {"LabRxCNumRegSeleccion", "62"}};
+    for (const auto& [label, figure] : figures) tour.shows(QString::fromLatin1(label), QString::fromLatin1(figure));
+}
+
+// Through all pages and back; a chain opens where it was left.
+void readHelp(Tour& tour) {
+    driver::Driver& hands = tour.hands();
+    for (const std::vector<int>& chain : Chains) {
+        hands.go(chain.front());
+        for (std::size_t i = 1; i < chain.size(); ++i) hands.click(u"BtnSiguiente"_s);
+        tour.same(u"number of the page"_s, chain.back(), tour.window().Solapas().VentanaMostrandose);
+        hands.go(AddNumber);
+        hands.go(chain.front());
+        tour.same(u"number of the page"_s, chain.back(), tour.window().Solapas().VentanaMostrandose);
+        if (chain.front() == 59) tour.photograph();
+        for (std::size_t i = 1; i < chain.size(); ++i) hands.click(u"BtnAnterior"_s);
+        tour.same(u"number of the page"_s, chain.front(), tour.window().Solapas().VentanaMostrandose);
+    }
+    hands.go(GeneralNumber);
+    const QString words = hands.get<QTextEdit>(u"TxtAyudaGeneral"_s).toPlainText();
+    tour.require(words.contains(u"stored at DataZV.mdb."_s), u"The help does not name the file."_s);
+    hands.go(AboutNumber);
+    hands.screen(u"FormAcercaDe"_s);
+}
+
+// Drawings, letters and words grow with the window.
+void readHelpLarge(Tour& tour) {
+    resize(tour, {1920, 1080});
+    const auto keep = [&tour](int number) { tour.photograph(u"large/%1"_s.arg(number)); };
+    tour.hands().go(ReportNumber);
+    keep(ReportNumber);
+    for (const std::vector<int>& chain : Chains) {
+        tour.hands().go(chain.front());
+        keep(chain.front());
+        for (std::size_t i = 1; i < chain.size(); ++i) {
+            tour.hands().click(u"BtnSiguiente"_s);
+            keep(chain[i]);
+        }
+        for (std::size_t i = 1; i < chain.size(); ++i) tour.hands().click(u"BtnAnterior"_s);
+    }
+    tour.hands().go(AboutNumber);
+    keep(AboutNumber);
+    resize(tour, {1100, 760});
+}
+
+} // namespace zv::tour
