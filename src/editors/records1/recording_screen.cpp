@@ -98,6 +98,8 @@ void RecordingScreen::showMovements() {
         LabObraTotal->setCaption(store::clockText(store::splitSeconds(Val(stored(u"TiempoTotal"_s)))));
     }
     LabObraNumeroMovimientos->setCaption(Val(count) != 0 ? count : QString());
+    if (!tipsShown) return;
+    for (forms::Label* label : {LabObraTotal, LabObraNumeroMovimientos}) label->setToolTipText(label->Caption());
 }
 
 QString RecordingScreen::rowText(int part) {
@@ -179,8 +181,10 @@ void RecordingScreen::clearPart(int part) {
             grid->setCols(0);
         }
     if (part == WorkPart) {
-        LabObraTotal->setCaption({});
-        LabObraNumeroMovimientos->setCaption({});
+        for (forms::Label* label : {LabObraTotal, LabObraNumeroMovimientos}) {
+            label->setCaption({});
+            label->setToolTipText({});
+        }
     }
     if (part == PerformerPart) LabInterpreteNumeroInterprete->setCaption({});
 }

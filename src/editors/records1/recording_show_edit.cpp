@@ -35,6 +35,7 @@ void FormReg1MosGrabacion::Carga() {
     emptyScreen();
     if (!hasRows()) {
         TxtOrden->setText({});
+        TxtNotas->setText({});
         ValoresInicio();
         return;
     }
@@ -232,6 +233,7 @@ void FormReg1MosGrabacion::modify() {
     }
     removeLinks(recording);
     writeRecording(false, chosen(ComposerPart), chosen(WorkPart), chosen(FormatPart));
+    standOnRecording();
     if (module1().ErrorBaseDatos) {
         store().reportError();
         module1().ErrorBaseDatos = false;
@@ -246,6 +248,14 @@ void FormReg1MosGrabacion::modify() {
     module1().RegresoMosGrabacion = false;
     Carga();
     unlockTabs();
+}
+
+// A write leaves the channel on its first row, and a save that stops half-way is completed by the next one.
+void FormReg1MosGrabacion::standOnRecording() {
+    jet::Recordset& rows = Data().Recordset();
+    if (rows.RecordCount() == 0) return;
+    rows.MoveLast();
+    rows.setAbsolutePosition(std::min(HScroll->Value(), rows.RecordCount()) - 1);
 }
 
 void FormReg1MosGrabacion::removeRow() {
