@@ -37,9 +37,9 @@ void RecordingDesk::putRecordings(const QList<Recording>& recordings) {
     for (const Recording& r : recordings) {
         ++key;
         put({u"Grabacion"_s,
-             u"IdCompositor, IdObra, IdSoporte, Notas"_s,
-             {u"%1, %2, %3, '%4'"_s.arg(QString::number(r.composer), QString::number(r.work),
-                                        QString::number(r.format), r.notes)}});
+             u"IdGrabacion, IdCompositor, IdObra, IdSoporte, Notas"_s,
+             {u"%1, %2, %3, %4, '%5'"_s.arg(QString::number(key), QString::number(r.composer), QString::number(r.work),
+                                            QString::number(r.format), r.notes)}});
         const auto link = [&](const QString& kind, const QList<int>& keys) {
             QStringList values;
             for (const int linked : keys) values += u"%1, %2"_s.arg(key).arg(linked);
