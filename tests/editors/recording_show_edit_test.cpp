@@ -253,6 +253,8 @@ TEST_F(RecordingShowEdit, partsThatAreGoneShowNothing) {
     EXPECT_EQ(groups(), u"3,-2,-2; -2,-2,-2; 2,3,-2"_s);
     hands->click(u"BtnModificar"_s);
     EXPECT_EQ(removable(), u"Director Interprete"_s);
+    heading(Orchestra); // reads the links of this recording again, not those of others
+    EXPECT_EQ(listed(Orchestra), QString());
     // Without its format the recording can't be saved; with another one it is, and keeps what stands for the lost.
     boxes.expect(u"IDENTIFIER must be Introduced."_s, 48);
     hands->click(u"BtnGuardar"_s);

@@ -129,12 +129,15 @@ void FormReg1MosGrabacion::Lab_Click(int part) {
     if (part == FormatPart) markFormat(chosenKey >= 1);
 }
 
+// After the load the channel holds the links of all recordings.
 QString FormReg1MosGrabacion::linkCondition(int part) {
+    const double recording = key();
     QStringList terms;
     const QString column = partInfo(part).group->keyColumn.toString();
     jet::Recordset& rows = links(part).Recordset();
     for (int row = 0; row < rows.RecordCount(); ++row) {
         rows.setAbsolutePosition(row);
+        if (Val(links(part).boundText(u"IdGrabacion"_s)) != recording) continue;
         terms += column + u'=' + CStr(Val(links(part).boundText(column)));
     }
     return terms.join(u" OR "_s);
