@@ -98,6 +98,8 @@ void RecordingScreen::showMovements() {
         LabObraTotal->setCaption(store::clockText(store::splitSeconds(Val(stored(u"TiempoTotal"_s)))));
     }
     LabObraNumeroMovimientos->setCaption(Val(count) != 0 ? count : QString());
+    if (!tipsShown) return;
+    for (forms::Label* label : {LabObraTotal, LabObraNumeroMovimientos}) label->setToolTipText(label->Caption());
 }
 
 QString RecordingScreen::rowText(int part) {
@@ -179,8 +181,10 @@ void RecordingScreen::clearPart(int part) {
             grid->setCols(0);
         }
     if (part == WorkPart) {
-        LabObraTotal->setCaption({});
-        LabObraNumeroMovimientos->setCaption({});
+        for (forms::Label* label : {LabObraTotal, LabObraNumeroMovimientos}) {
+            label->setCaption({});
+            label->setToolTipText({});
+        }
     }
     if (part == PerformerPart) LabInterpreteNumeroInterprete->setCaption({});
 }
@@ -199,7 +203,7 @@ void RecordingScreen::writeRecording(bool add, qint32 composer, qint32 work, qin
 
 bool RecordingScreen::writeLinks(int part, const FixedTable& table, double recording) {
     const PartGroup& group = *partInfo(part).group;
-    for (int row = 0; keyAt(table, row) > 0; ++row) {
+    for (int row = 0; row < table.rows() && keyAt(table, row) > 0; ++row) {
         campos_.set(0, u"IdGrabacion", CStr(recording));
         campos_.set(1, group.keyColumn, CStr(keyAt(table, row)));
         store().GrabarRegistro(group.linkChannel, 2, true, campos_);

@@ -35,6 +35,7 @@ void FormReg1MosGrabacion::Carga() {
     emptyScreen();
     if (!hasRows()) {
         TxtOrden->setText({});
+        TxtNotas->setText({});
         ValoresInicio();
         return;
     }
@@ -128,12 +129,15 @@ void FormReg1MosGrabacion::Lab_Click(int part) {
     if (part == FormatPart) markFormat(chosenKey >= 1);
 }
 
+// After the load the channel holds the links of all recordings.
 QString FormReg1MosGrabacion::linkCondition(int part) {
+    const double recording = key();
     QStringList terms;
     const QString column = partInfo(part).group->keyColumn.toString();
     jet::Recordset& rows = links(part).Recordset();
     for (int row = 0; row < rows.RecordCount(); ++row) {
         rows.setAbsolutePosition(row);
+        if (Val(links(part).boundText(u"IdGrabacion"_s)) != recording) continue;
         terms += column + u'=' + CStr(Val(links(part).boundText(column)));
     }
     return terms.join(u" OR "_s);
@@ -232,6 +236,7 @@ void FormReg1MosGrabacion::modify() {
     }
     removeLinks(recording);
     writeRecording(false, chosen(ComposerPart), chosen(WorkPart), chosen(FormatPart));
+    standOnRecording();
     if (module1().ErrorBaseDatos) {
         store().reportError();
         module1().ErrorBaseDatos = false;
@@ -246,6 +251,14 @@ void FormReg1MosGrabacion::modify() {
     module1().RegresoMosGrabacion = false;
     Carga();
     unlockTabs();
+}
+
+// A write leaves the channel on its first row, and a save that stops half-way is completed by the next one.
+void FormReg1MosGrabacion::standOnRecording() {
+    jet::Recordset& rows = Data().Recordset();
+    if (rows.RecordCount() == 0) return;
+    rows.MoveLast();
+    rows.setAbsolutePosition(std::min(HScroll->Value(), rows.RecordCount()) - 1);
 }
 
 void FormReg1MosGrabacion::removeRow() {

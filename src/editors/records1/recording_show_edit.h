@@ -39,6 +39,7 @@ class FormReg1MosGrabacion : public RecordingScreen {
     void BtnDeshacer_Click();
     void BtnReducirAmpliar_Click();
     void modify();
+    void standOnRecording();
     void removeRow();
     void unlockTabs();
     void resetGroups(const QString& orchestraMark);
