@@ -142,15 +142,13 @@ QString FormReg1SelGrabacion::keyTerms(jet::DataControl& channel, const QString&
                                        const QString& term) {
     channel.RecordSource = statement;
     channel.Refresh();
-    jet::Recordset& rows = channel.Recordset();
+    toInteger(channel.Recordset().RecordCount()); // the rows are counted in 16 bits
     QString terms;
-    const qint16 count = toInteger(rows.RecordCount());
-    for (int i = 0; i < count; ++i) {
-        rows.setAbsolutePosition(i);
-        const QString key = channel.boundText(column.toString());
+    for (const QString& key : channel.Recordset().columnTexts(column.toString())) {
         if (key.isEmpty()) continue; // a link that names no recording
         if (!terms.isEmpty()) terms += u" OR "_s;
-        terms += term + key;
+        terms += term;
+        terms += key;
     }
     return terms;
 }

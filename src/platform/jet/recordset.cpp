@@ -6,7 +6,9 @@
 #include "platform/jet/query.h"
 #include "platform/jet/recordset_impl.h"
 #include "platform/jet/sqlite_errors.h"
+#include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <sqlite3.h>
 
 namespace zv::jet {
@@ -118,6 +120,31 @@ int Recordset::Impl::columnOf(const QString& name) const {
 QString Recordset::Impl::boundText(const QString& name) {
     const auto column = static_cast<std::size_t>(columnOf(name));
     return !atEnd_ && !removed_ && readRow() ? (*row_)[column] : QString();
+}
+
+// One pass over the table by rising keys, met by the rows in the same order.
+std::vector<QString> Recordset::Impl::columnTexts(const QString& name) {
+    const Column& column = table_.columns[static_cast<std::size_t>(columnOf(name))];
+    std::vector<int> positions(static_cast<std::size_t>(keys_.size()));
+    std::iota(positions.begin(), positions.end(), 0);
+    const auto byKey = [this](int position) { return keys_.at(position); };
+    if (!std::ranges::is_sorted(positions, {}, byKey)) std::ranges::sort(positions, {}, byKey);
+    std::vector<QString> texts(positions.size());
+    if (texts.empty()) return texts;
+    translated(database_->path(), [&] {
+        SQLite::Statement scan(database_->connection(), "SELECT rowid, " + quotedName(column.name) + " FROM " +
+                                                            quotedName(table_.name) +
+                                                            " WHERE rowid BETWEEN ?1 AND ?2 ORDER BY rowid");
+        scan.bind(1, byKey(positions.front()));
+        scan.bind(2, byKey(positions.back()));
+        for (auto at = positions.begin(); at != positions.end() && scan.executeStep();) {
+            const std::int64_t key = scan.getColumn(0).getInt64();
+            while (at != positions.end() && byKey(*at) < key) ++at;
+            if (at != positions.end() && byKey(*at) == key)
+                texts[static_cast<std::size_t>(*at++)] = textOf(scan.getColumn(1));
+        }
+    });
+    return texts;
 }
 
 QString Recordset::Impl::value(int column) {
@@ -255,6 +282,7 @@ void Recordset::AddNew() { impl_->addNew(); }
 void Recordset::Edit() { impl_->edit(); }
 void Recordset::Update() { impl_->update(); }
 void Recordset::Delete() { impl_->remove(); }
+std::vector<QString> Recordset::columnTexts(const QString& name) { return impl_->columnTexts(name); }
 Field Recordset::Fields(const QString& name) { return {*this, impl_->columnOf(name)}; }
 
 QString Field::Value() const { return owner_.impl().value(column_); }

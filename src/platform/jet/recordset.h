@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <memory>
+#include <vector>
 
 namespace zv::jet {
 
@@ -52,6 +53,10 @@ class Recordset {
 
     /// Error 3265 for an unknown name; case does not count.
     Field Fields(const QString& name);
+
+    /// Texts of a column in all rows, in their order: a walk over them that reads nothing else. "" for Null and for a
+    /// row that is gone. The current row stays. Error 3265 for an unknown name.
+    std::vector<QString> columnTexts(const QString& name);
 
     class Impl;
     Impl& impl() { return *impl_; }

@@ -34,6 +34,7 @@ class Recordset::Impl {
     void setValue(int column, const QString& text);
     /// Text of a column in the current row, "" without a row.
     QString boundText(const QString& name);
+    std::vector<QString> columnTexts(const QString& name);
 
   private:
     enum class Mode { Reading, Adding, Editing };
