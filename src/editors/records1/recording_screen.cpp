@@ -203,7 +203,7 @@ void RecordingScreen::writeRecording(bool add, qint32 composer, qint32 work, qin
 
 bool RecordingScreen::writeLinks(int part, const FixedTable& table, double recording) {
     const PartGroup& group = *partInfo(part).group;
-    for (int row = 0; row < table.rows() && keyAt(table, row) > 0; ++row) {
+    for (int row = 0; keyAt(table, row) > 0; ++row) {
         campos_.set(0, u"IdGrabacion", CStr(recording));
         campos_.set(1, group.keyColumn, CStr(keyAt(table, row)));
         store().GrabarRegistro(group.linkChannel, 2, true, campos_);
