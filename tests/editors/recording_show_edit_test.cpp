@@ -207,6 +207,7 @@ TEST_F(RecordingShowEdit, removedPartsAndTheirMarks) {
         hands->click(u"BtnEliIma"_s + name(part));
     EXPECT_EQ(removable(), QString());
     EXPECT_EQ(keys(false), u"-2 -2 -2"_s);
+    EXPECT_TRUE(formatMissing());
     EXPECT_EQ(groups(), u"-1,-1,-1; -1,-1,-1; -1,-1,-1"_s);
     EXPECT_EQ(marks(module1().ListaInterpreteMos, 99, 2), u"-1,-1"_s);
     EXPECT_EQ(module1().ListaInterpreteMos.at(0, 0), QString());
@@ -251,6 +252,7 @@ TEST_F(RecordingShowEdit, partsThatAreGoneShowNothing) {
                   hands->text(u"LabSoporteDiscografica"_s),
               QString());
     EXPECT_EQ(keys(false), u"-2 -2 -2"_s);
+    EXPECT_TRUE(formatMissing());
     EXPECT_EQ(groups(), u"3,-2,-2; -2,-2,-2; 2,3,-2"_s);
     hands->click(u"BtnModificar"_s);
     EXPECT_EQ(removable(), u"Director Interprete"_s);
