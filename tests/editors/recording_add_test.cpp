@@ -29,7 +29,9 @@ TEST_F(RecordingAdd, aFormatAloneMakesARecordingAndUndoTakesItBack) {
     EXPECT_EQ(counters(), u"0 0; 0 0 0"_s);
     EXPECT_FALSE(hands->isEnabled(u"BtnDeshacer"_s));
     const QString empty = hands->dump();
+    EXPECT_TRUE(formatMissing());
     heading(Format);
+    EXPECT_FALSE(formatMissing());
     EXPECT_EQ(removable(), u"Soporte"_s);
     EXPECT_EQ(hands->text(u"LabSoporteDiscografica"_s), u"Label 2"_s);
     // A group that nobody gathered is not imported.

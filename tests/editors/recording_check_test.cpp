@@ -50,8 +50,9 @@ TEST_P(RecordingCheck, okClosesTheSelectionsOfAllParts) {
     start();
     hands->go(Elsewhere);
     for (const Kind kind : Kinds) select(kind);
-    boxes.expect(question(u"    - Composer\r    - Work\r    - Orchestra\r    - Conductor\r    - Performer\r    - Format\r"_s),
-                 33, box::Ok);
+    boxes.expect(
+        question(u"    - Composer\r    - Work\r    - Orchestra\r    - Conductor\r    - Performer\r    - Format\r"_s),
+        33, box::Ok);
     come();
     EXPECT_EQ(program->window.Solapas().VentanaMostrandose, GetParam());
     expectWholeTables();
@@ -81,7 +82,8 @@ TEST_P(RecordingCheck, cancelLeadsToTheSelectScreenOfTheFirst) {
     for (const auto& [kind, screen, kinds] :
          {std::tuple{Kind::Soporte, u"FormReg1SelSoporte"_s, u"    - Format\r"_s},
           std::tuple{Kind::Interprete, u"FormReg1SelInterprete"_s, u"    - Performer\r    - Format\r"_s},
-          std::tuple{Kind::Compositor, u"FormReg1SelCompositor"_s, u"    - Composer\r    - Performer\r    - Format\r"_s}}) {
+          std::tuple{Kind::Compositor, u"FormReg1SelCompositor"_s,
+                     u"    - Composer\r    - Performer\r    - Format\r"_s}}) {
         SCOPED_TRACE(kinds.toStdString());
         hands->go(FirstShowEdit); // so that coming back by the first tab is not yet coming to the recordings
         hands->go(Elsewhere);

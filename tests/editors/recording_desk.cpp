@@ -126,8 +126,7 @@ QString RecordingDesk::marks(const store::FixedTable& table, int first, int coun
 void RecordingDesk::expectWholeTables() {
     for (const Kind kind : PartKind)
         EXPECT_EQ(program->store.Data(kind).RecordSource, u"SELECT * FROM "_s + store::info(kind).table.toString());
-    for (const int channel : {7, 8, 9})
-        EXPECT_FALSE(program->store.Data(1, channel).RecordSource.contains(u"WHERE"_s));
+    for (const int channel : {7, 8, 9}) EXPECT_FALSE(program->store.Data(1, channel).RecordSource.contains(u"WHERE"_s));
 }
 
 } // namespace zv::test

@@ -55,6 +55,10 @@ class RecordingDesk : public Desk {
     QString pictureOf(Part part);
     /// Parts whose "Remove" shows.
     QString removable();
+    /// The heading of the format is white while none is chosen.
+    bool formatMissing() {
+        return hands->get<QWidget>(u"LabSoporte"_s).palette().color(QPalette::Window) == QColor(Qt::white);
+    }
     bool tabsFree() { return program->window.Solapas().TabNivel1->isEnabled(); }
     /// The links of all recordings: conductors; orchestras; performers, each "recording-key".
     QString links();

@@ -22,7 +22,8 @@ class RecordingFailingWrite : public RecordingDesk {
     /// The program anew on two recordings, of which the second has five links.
     void begin() {
         stop();
-        for (const QString& table : {u"Grabacion"_s, u"RelacionDirector"_s, u"RelacionOrquesta"_s, u"RelacionInterprete"_s})
+        for (const QString& table :
+             {u"Grabacion"_s, u"RelacionDirector"_s, u"RelacionOrquesta"_s, u"RelacionInterprete"_s})
             sql(u"DELETE FROM "_s + table);
         putRecordings({{1, 1, 1, {3}, {3}, {3}, u"first"_s}, {2, 2, 2, {1, 2}, {1}, {1, 2}, u"second"_s}});
         start();
@@ -31,7 +32,8 @@ class RecordingFailingWrite : public RecordingDesk {
     void measure() {
         store::Store& store = program->store;
         for (const int channel : {6, 7}) {
-            store.Data(1, channel).RecordSource = channel == 6 ? u"SELECT * FROM Grabacion"_s : u"SELECT * FROM RelacionDirector"_s;
+            store.Data(1, channel).RecordSource =
+                channel == 6 ? u"SELECT * FROM Grabacion"_s : u"SELECT * FROM RelacionDirector"_s;
             store.Data(1, channel).Refresh();
         }
         store::Campos row;
@@ -99,7 +101,8 @@ TEST_F(RecordingFailingWrite, aSaveKeepsWhatWasWrittenBefore) {
         begin();
         compose();
         clickFailing(u"BtnGuardar"_s, step == 0 ? 0 : adding + (step - 1) * linking, step == 0);
-        EXPECT_EQ(shortRows(), step == 0 ? (QStringList{firstRow, secondRow}) : (QStringList{firstRow, secondRow, newRow}));
+        EXPECT_EQ(shortRows(),
+                  step == 0 ? (QStringList{firstRow, secondRow}) : (QStringList{firstRow, secondRow, newRow}));
         EXPECT_EQ(linkCounts(), left[step]);
         EXPECT_EQ(recordings().Cont, 2);
         EXPECT_EQ(recordings().ContNew, 0);

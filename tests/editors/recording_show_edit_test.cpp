@@ -207,6 +207,7 @@ TEST_F(RecordingShowEdit, removedPartsAndTheirMarks) {
         hands->click(u"BtnEliIma"_s + name(part));
     EXPECT_EQ(removable(), QString());
     EXPECT_EQ(keys(false), u"-2 -2 -2"_s);
+    EXPECT_TRUE(formatMissing());
     EXPECT_EQ(groups(), u"-1,-1,-1; -1,-1,-1; -1,-1,-1"_s);
     EXPECT_EQ(marks(module1().ListaInterpreteMos, 99, 2), u"-1,-1"_s);
     EXPECT_EQ(module1().ListaInterpreteMos.at(0, 0), QString());
@@ -232,7 +233,8 @@ TEST_F(RecordingShowEdit, removedPartsAndTheirMarks) {
 
 TEST_F(RecordingShowEdit, partsThatAreGoneShowNothing) {
     putParts(4, 4);
-    for (const QString& table : {u"Compositor"_s, u"Obra"_s, u"Soporte"_s, u"Director"_s, u"Orquesta"_s, u"Interprete"_s})
+    for (const QString& table :
+         {u"Compositor"_s, u"Obra"_s, u"Soporte"_s, u"Director"_s, u"Orquesta"_s, u"Interprete"_s})
         sql(u"UPDATE %1 SET Imagen = '%2'"_s.arg(table, picture(u"square.bmp"_s, {50, 50})));
     putRecordings({{1, 1, 1, {1}, {1}, {1}}, {2, 2, 2, {2, 3}, {2}, {2, 3}}});
     sql(u"DELETE FROM Compositor WHERE Id = 2"_s);
@@ -250,6 +252,7 @@ TEST_F(RecordingShowEdit, partsThatAreGoneShowNothing) {
                   hands->text(u"LabSoporteDiscografica"_s),
               QString());
     EXPECT_EQ(keys(false), u"-2 -2 -2"_s);
+    EXPECT_TRUE(formatMissing());
     EXPECT_EQ(groups(), u"3,-2,-2; -2,-2,-2; 2,3,-2"_s);
     hands->click(u"BtnModificar"_s);
     EXPECT_EQ(removable(), u"Director Interprete"_s);
@@ -264,6 +267,30 @@ TEST_F(RecordingShowEdit, partsThatAreGoneShowNothing) {
     hands->click(u"BtnGuardar"_s);
     EXPECT_EQ(rows()[1], u"2|-2|-2|4|"_s);
     EXPECT_EQ(links(), u"1-1 2-3; 1-1; 1-1 2-2 2-3"_s);
+}
+
+TEST_F(RecordingShowEdit, leavingByTheTabsPutsTheChannelsBack) {
+    three();
+    open();
+    stand(Composer, 3);
+    for (const bool byTabs : {true, false}) {
+        SCOPED_TRACE(byTabs);
+        hands->go(ShowEdit);
+        memory(Kind::Soporte).Posicion = 9;
+        memory(Kind::Director).Posicion = -1;
+        if (byTabs) {
+            hands->go(Elsewhere);
+        } else {
+            hands->click(u"BtnModificar"_s);
+            trip(Performer);
+        }
+        expectWholeTables();
+        // A trip leaves the positions alone.
+        EXPECT_EQ(memory(Kind::Soporte).Posicion, byTabs ? 4 : 9);
+        EXPECT_EQ(memory(Kind::Director).Posicion, byTabs ? 4 : -1);
+        EXPECT_EQ(memory(Kind::Compositor).Posicion, 3);
+        EXPECT_EQ(program->store.Data(Kind::Compositor).Recordset().AbsolutePosition(), 2);
+    }
 }
 
 TEST_F(RecordingShowEdit, aPartRemovedOnATripLeavesTheComposition) {
