@@ -112,9 +112,9 @@ QString RecordingScreen::rowText(int part) {
 
 bool RecordingScreen::hasGroup(const FixedTable& table) { return keyAt(table, 0) > 0; }
 
-QString RecordingScreen::groupCondition(int part, const FixedTable& table) {
+QString RecordingScreen::groupCondition(int part, const FixedTable& table, int rows) {
     QStringList terms;
-    for (int row = 0; row < table.rows() && keyAt(table, row) > 0; ++row)
+    for (int row = 0; row < rows && keyAt(table, row) > 0; ++row)
         terms += partInfo(part).group->keyColumn.toString() + u'=' + CStr(keyAt(table, row));
     return terms.join(u" OR "_s);
 }

@@ -9,6 +9,7 @@
 #include "platform/forms/text_box.h"
 #include "shell/contract/selection_check.h"
 #include "store/messages.h"
+#include <limits>
 
 namespace zv::editors {
 
@@ -43,8 +44,9 @@ class RecordingScreen : public shell::Screen {
     /// Shows the rows of a condition in a group's grid and its first picture; each row goes to the table if there is
     /// one. The channel is put back to the whole table.
     void showGroup(int part, const QString& condition, store::FixedTable* table);
-    /// The condition on the keys of a table, up to the first row without one.
-    static QString groupCondition(int part, const store::FixedTable& table);
+    /// The condition on the keys of a table, up to the first row without one. A table without such a row is read past
+    /// its end, error 9, unless it is read up to `rows` only.
+    static QString groupCondition(int part, const store::FixedTable& table, int rows = std::numeric_limits<int>::max());
     static bool hasGroup(const store::FixedTable& table);
 
     /// Empties what a part shows: default picture, labels or grid, no remove button.

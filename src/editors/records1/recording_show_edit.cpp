@@ -146,7 +146,7 @@ QString FormReg1MosGrabacion::linkCondition(int part) {
 void FormReg1MosGrabacion::importGroup(int part) {
     FixedTable& table = group(part);
     const bool read = Val(table.at(0, 1)) != NotRead;
-    const QString condition = read ? groupCondition(part, table) : linkCondition(part);
+    const QString condition = read ? groupCondition(part, table, table.rows()) : linkCondition(part);
     // A table that is full to its last row ends without showing anything.
     if (read && condition.count(u'=') > partInfo(part).group->limit) return;
     if (condition.isEmpty()) return;
