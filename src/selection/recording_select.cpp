@@ -3,6 +3,7 @@
 #include "platform/base/text.h"
 #include "store/current_selection.h"
 #include "store/recording_parts.h"
+#include <algorithm>
 
 namespace zv::selection {
 

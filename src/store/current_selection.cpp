@@ -2,6 +2,7 @@
 
 #include "platform/base/text.h"
 #include "store/messages.h"
+#include <algorithm>
 
 namespace zv::store {
 

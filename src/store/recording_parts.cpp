@@ -1,6 +1,9 @@
 #include "store/recording_parts.h"
 
 #include "platform/base/text.h"
+#include <QStringList>
+#include <cmath>
+#include <limits>
 
 namespace zv::store {
 

@@ -148,6 +148,17 @@ TEST_F(RecordsetTest, deletesTheCurrentRowAndGoesOnWithTheNext) {
     EXPECT_EQ(catalogue.texts(kAll, u"Id"_s), QStringList(u"5"_s)) << "keys are never given twice";
 }
 
+TEST_F(RecordsetTest, readsAColumnOfAllRowsInTheirOrderAndStaysWhereItIs) {
+    filled(4);
+    DataControl control = catalogue.open(kAll + u" WHERE Fecha1 > 1 ORDER BY Fecha1 DESC"_s);
+    control.Recordset().setAbsolutePosition(2);
+    sqlite(catalogue.path, "DELETE FROM Compositor WHERE Apellidos = 'c'");
+    EXPECT_EQ(control.Recordset().columnTexts(u"apellidos"_s), (std::vector<QString>{u"d"_s, u""_s, u"b"_s}));
+    EXPECT_EQ(control.boundText(kName), u"b"_s);
+    EXPECT_EQ(errorOf([&] { control.Recordset().columnTexts(u"Nadie"_s); }), 3265);
+    EXPECT_TRUE(catalogue.open(kAll + u" WHERE Id = -1"_s).Recordset().columnTexts(kName).empty());
+}
+
 TEST_F(RecordsetTest, noticesThatAnotherProgramRemovedTheRow) {
     DataControl control = filled(2);
     sqlite(catalogue.path, "DELETE FROM Compositor WHERE Id = 1");

@@ -1,0 +1,229 @@
+// The Select screen of the recordings: the statement that filters on seven tables make, what drops out of it, what a
+// return loses, and how the other channels stand afterwards.
+#include "support/desk.h"
+
+using namespace zv;
+using namespace Qt::StringLiterals;
+using store::Kind;
+
+namespace {
+
+constexpr int SelectNumber = 14;
+const QString All = u"SELECT * FROM Grabacion"_s;
+
+class RecordingSelect : public test::Desk {
+  protected:
+    /// Nine recordings; 4 and 5 have the same composer and work, 4 and 9 the same conductor.
+    void fill() {
+        put({u"Compositor"_s, u"Apellidos, Fecha1"_s, {u"'Vega', 1600"_s, u"'Ruiz', 1750"_s, u"'Sol', 1650"_s}});
+        put({u"Obra"_s,
+             u"Nombre"_s,
+             {u"'Trio'"_s, u"'Trio'"_s, u"'Trio'"_s, u"'Trio'"_s, u"'Trio'"_s, u"'Trio'"_s, u"'Sonata'"_s}});
+        put({u"Director"_s, u"Apellidos"_s, {u"'Bach'"_s, u"'Vega'"_s, u"'Idle'"_s}});
+        put({u"Orquesta"_s, u"Nombre"_s, {u"'York'"_s, u"'New York'"_s}});
+        put({u"Interprete"_s, u"Nombre"_s, {u"'Ana'"_s, u"'Eva'"_s}});
+        put({u"Soporte"_s, u"Discografica"_s, {u"'Acme'"_s, u"'Zeta'"_s}});
+        put({u"Grabacion"_s,
+             u"IdCompositor, IdObra, IdSoporte, Notas"_s,
+             {u"2, 1, 1, 'live'"_s, u"3, 1, 1, ''"_s, u"3, 2, 2, 'Live tape'"_s, u"1, 7, 1, ''"_s, u"1, 7, 1, ''"_s,
+              u"3, 3, 1, ''"_s, u"3, 4, 1, ''"_s, u"3, 5, 1, ''"_s, u"3, 6, 1, ''"_s}});
+        put({u"RelacionDirector"_s, u"IdGrabacion, IdDirector"_s, {u"5, 1"_s, u"4, 2"_s, u"9, 2"_s}});
+        put({u"RelacionOrquesta"_s, u"IdGrabacion, IdOrquesta"_s, {u"6, 2"_s, u"2, 1"_s}});
+        put({u"RelacionInterprete"_s, u"IdGrabacion, IdInterprete"_s, {u"3, 1"_s, u"1, 1"_s, u"NULL, 1"_s}});
+    }
+    void begin() {
+        fill();
+        start();
+        hands->go(SelectNumber);
+    }
+    void add(const QString& field, const QString& criterion, const QString& value) {
+        hands->choose(u"ComboCampo"_s, field);
+        hands->choose(u"ComboCriterio"_s, criterion);
+        hands->type(u"TxtValFiltro"_s, value);
+        hands->click(u"BtnAnadir"_s);
+    }
+    void selectOne(const QString& field, const QString& criterion, const QString& value) {
+        hands->click(u"BtnNueva"_s);
+        add(field, criterion, value);
+    }
+    void further(const QString& button, const QString& field, const QString& criterion, const QString& value) {
+        hands->click(button);
+        add(field, criterion, value);
+    }
+    void accept() { hands->click(u"BtnAceptar"_s); }
+    void leaveAndReturn() {
+        hands->go(shell::ReportNumber);
+        hands->go(SelectNumber);
+    }
+    QString source(Kind kind) { return program->store.Data(kind).RecordSource; }
+    QString statement() { return source(Kind::Grabacion); }
+    QString found() {
+        const auto keys = program->store.Data(Kind::Grabacion).Recordset().columnTexts(u"IdGrabacion"_s);
+        return QStringList(keys.begin(), keys.end()).join(u' ');
+    }
+    const store::SelectionMemory& selection() { return memory(Kind::Grabacion).MemoSel; }
+    QString rows() {
+        QStringList shown;
+        auto& list = hands->get<forms::ListBox>(u"ListFiltros"_s);
+        for (int i = 0; i < list.ListCount(); ++i) shown += list.item(i)->text();
+        return shown.join(u'|');
+    }
+};
+
+TEST_F(RecordingSelect, MakesOneStatementOfFiltersOnSeveralTables) {
+    begin();
+    selectOne(u"COM Surname"_s, u"Contains"_s, u"vega"_s);
+    further(u"BtnO"_s, u"COM Date 1"_s, u"Bigger than"_s, u"1700"_s);
+    further(u"BtnY"_s, u"CON Surname"_s, u"Same as"_s, u"Vega"_s);
+    further(u"BtnY"_s, u"WOR Work"_s, u"Contains"_s, u"sonata"_s);
+    const QString words = u"(((COM Surname Contains 'vega' OR COM Date 1 Bigger than '1700')  AND CON Surname Same as "
+                          "'Vega')  AND WOR Work Contains 'sonata') "_s;
+    const auto& clauses = selection().Opciones;
+    EXPECT_EQ(QStringList(clauses.begin(), clauses.end()).join(u'|'),
+              u"(Apellidos LIKE '*vega*' OR Fecha1 > 1700)|Nombre LIKE '*sonata*'||Apellidos = 'Vega'|||"_s);
+    EXPECT_EQ(selection().ValorFiltro, words);
+    EXPECT_EQ(selection().Lista, u"COM Surname#Contains#'vega'#       OR#COM Date 1#Bigger than#'1700'#       AND#CON "
+                                 "Surname#Same as#'Vega'#       AND#WOR Work#Contains#'sonata'#"_s);
+    // The conductors' list stands bare: recording 9 comes in on its own.
+    accept();
+    EXPECT_EQ(statement(),
+              All + u" WHERE ((IdCompositor=1 OR IdCompositor=2) AND (IdObra=7) AND IDGrabacion=4 OR IDGrabacion=9)"_s);
+    EXPECT_EQ(found(), u"4 9"_s);
+    EXPECT_EQ(hands->text(u"LabNumReg"_s) + hands->text(u"LabNumRegFiltros"_s), u"24"_s);
+    EXPECT_EQ(memory(Kind::Grabacion).ContSel, 2);
+    EXPECT_EQ(memory(Kind::Grabacion).ContFil, 4);
+    EXPECT_EQ(selection().NT, 2);
+    EXPECT_EQ(selection().ValorFiltro, words);
+    EXPECT_EQ(QStringList(clauses.begin(), clauses.end()).join(QString()), QString());
+    EXPECT_EQ(selection().CampoOrden, -1);
+    leaveAndReturn();
+    EXPECT_EQ(hands->text(u"LabOpcionSQL"_s), words);
+    EXPECT_EQ(hands->text(u"ComboCampoOrden"_s), u"              FIELD"_s);
+    EXPECT_EQ(hands->text(u"ComboCriterioOrden"_s), u"Histórical"_s);
+}
+
+TEST_F(RecordingSelect, WritesTheListOfEachTableInItsOwnWay) {
+    begin();
+    struct Case {
+        QString field, criterion, value, where, found;
+    };
+    for (const Case& c : {
+             Case{u"ORC Orc-Ens-Cho"_s, u"Contains"_s, u"York"_s, u"(IDGrabacion=6 OR IDGrabacion=2)"_s, u"2 6"_s},
+             Case{u"PER Name"_s, u"Same as"_s, u"ANA"_s, u"((IDGrabacion =3 OR IDGrabacion =1))"_s, u"1 3"_s},
+             Case{u"FOR Record Company"_s, u"Bigger than"_s, u"B"_s, u"((IdSoporte=2))"_s, u"3"_s},
+             Case{u"REC Notes"_s, u"Contains"_s, u"live"_s, u"((Notas  LIKE '*live*'))"_s, u"1 3"_s},
+             Case{u"COM Date 1"_s, u"Same as"_s, u"none"_s, u"IdGrabacion=-1"_s, u""_s},
+             Case{u"CON Surname"_s, u"Same as"_s, u"Idle"_s, u"IdGrabacion=-1"_s, u""_s},
+         }) {
+        selectOne(c.field, c.criterion, c.value);
+        accept();
+        EXPECT_EQ(statement(), All + u" WHERE "_s + c.where);
+        EXPECT_EQ(found(), c.found);
+    }
+    selectOne(u"REC Notes"_s, u"Contains"_s, u"live"_s);
+    further(u"BtnO"_s, u"REC Notes"_s, u"Same as"_s, u"Live tape"_s);
+    EXPECT_EQ(rows(), u"REC Notes|Contains|'live'|       OR|REC Notes|Same as|'Live tape'"_s);
+    accept();
+    EXPECT_EQ(statement(), All + u" WHERE ((Notas  = 'Live tape'))"_s);
+}
+
+TEST_F(RecordingSelect, WidensTheSelectionByWhatMatchesNothing) {
+    begin();
+    selectOne(u"COM Surname"_s, u"Same as"_s, u"Sol"_s);
+    further(u"BtnY"_s, u"CON Surname"_s, u"Same as"_s, u"Idle"_s);
+    accept();
+    EXPECT_EQ(statement(), All + u" WHERE ((IdCompositor=3))"_s);
+    EXPECT_EQ(found(), u"2 3 6 7 8 9"_s);
+}
+
+TEST_F(RecordingSelect, LosesItsClausesOnAReturn) {
+    begin();
+    for (const bool another : {false, true}) {
+        selectOne(u"COM Surname"_s, u"Same as"_s, u"Sol"_s);
+        leaveAndReturn();
+        EXPECT_EQ(rows(), u"COM Surname|Same as|'Sol'"_s);
+        EXPECT_EQ(hands->text(u"LabNumFiltros"_s), u"1"_s);
+        if (another) further(u"BtnY"_s, u"WOR No. of  Movements"_s, u"Smaller than"_s, u"x"_s);
+        if (another) further(u"BtnO"_s, u"FOR Record Company"_s, u"Same as"_s, u"Zeta"_s);
+        accept();
+        EXPECT_EQ(statement(), All + (another ? u" WHERE ((IdSoporte=2))"_s : u" WHERE IdGrabacion=-1"_s));
+        EXPECT_EQ(found(), another ? u"3"_s : u""_s);
+    }
+    EXPECT_EQ(selection().ValorFiltro, u"((COM Surname Same as 'Sol' AND WOR No. of  Movements Smaller than 'x')  OR "
+                                       "FOR Record Company Same as 'Zeta') "_s);
+}
+
+TEST_F(RecordingSelect, SelectsAllAndEmptiesTheComposersList) {
+    begin();
+    selectOne(u"FOR Record Company"_s, u"Same as"_s, u"Zeta"_s);
+    accept();
+    hands->go(8);
+    selectOne(u"Surname"_s, u"Same as"_s, u"Sol"_s);
+    EXPECT_EQ(memory(Kind::Compositor).MemoSel.Lista, u"Surname#Same as#'Sol'#"_s);
+    hands->go(SelectNumber);
+    hands->click(u"BtnTodo"_s);
+    EXPECT_EQ(selection().Lista, u"#"_s) << "at once, though the accepted selection stands";
+    leaveAndReturn();
+    EXPECT_EQ(rows(), QString());
+    EXPECT_EQ(hands->text(u"LabNumReg"_s) + hands->text(u"LabNumRegFiltros"_s), u"11"_s);
+    EXPECT_EQ(found(), u"3"_s);
+    hands->click(u"BtnTodo"_s);
+    accept();
+    EXPECT_EQ(statement(), All);
+    EXPECT_EQ(memory(Kind::Grabacion).ContSel, 9);
+    EXPECT_EQ(memory(Kind::Grabacion).ContFil, 0);
+    EXPECT_EQ(memory(Kind::Compositor).MemoSel.Lista, u"#"_s);
+}
+
+TEST_F(RecordingSelect, PutsTheChannelsBackOnlyWhenAllIsWell) {
+    begin();
+    memory(Kind::Compositor).Posicion = 2;
+    memory(Kind::Obra).Posicion = 40;
+    selectOne(u"COM Surname"_s, u"Contains"_s, u"o"_s);
+    further(u"BtnY"_s, u"CON Surname"_s, u"Same as"_s, u"Vega"_s);
+    accept();
+    EXPECT_EQ(found(), u"9"_s);
+    store::Store& store = program->store;
+    EXPECT_EQ(source(Kind::Compositor), u"SELECT * FROM Compositor"_s);
+    EXPECT_EQ(source(Kind::Director), u"SELECT * FROM Director"_s);
+    EXPECT_EQ(store.Data(1, 7).RecordSource, u"SELECT * FROM RelacionDirector"_s);
+    EXPECT_EQ(store.Data(1, 7).Recordset().RecordCount(), 3);
+    EXPECT_EQ(store.Data(Kind::Compositor).Recordset().AbsolutePosition(), 1);
+    EXPECT_EQ(store.Data(Kind::Obra).Recordset().AbsolutePosition(), 6);
+    EXPECT_EQ(memory(Kind::Obra).Posicion, 7);
+
+    selectOne(u"COM Surname"_s, u"Contains"_s, u"o"_s);
+    further(u"BtnY"_s, u"WOR Work"_s, u"Same as"_s, u"O'Brien"_s);
+    boxes.expect(u"Has occurred Error: 3075"_s, box::Critical);
+    accept();
+    EXPECT_EQ(statement(), All);
+    EXPECT_EQ(found(), u"1 2 3 4 5 6 7 8 9"_s);
+    EXPECT_EQ(source(Kind::Compositor), u"SELECT * FROM Compositor WHERE Apellidos LIKE '*o*'"_s);
+    EXPECT_EQ(store.Data(Kind::Compositor).Recordset().RecordCount(), 1);
+    EXPECT_EQ(memory(Kind::Grabacion).ContSel, 1) << "of the selection before";
+    EXPECT_EQ(selection().Lista, u"#"_s);
+    EXPECT_EQ(selection().NT, 2);
+    selectOne(u"COM Surname"_s, u"Same as"_s, u"Vega"_s);
+    accept();
+    EXPECT_EQ(found(), u"4 5"_s) << "a good selection after the bad one";
+    EXPECT_EQ(source(Kind::Compositor), u"SELECT * FROM Compositor"_s);
+}
+
+TEST_F(RecordingSelect, CountsTheMatchesOfATableInSixteenBits) {
+    test::Rows many{u"Obra"_s, u"Nombre"_s, {}};
+    for (int i = 0; i < 32767; ++i) many.values += u"'a'"_s;
+    many.values += u"'ab'"_s;
+    put(many);
+    put({u"Grabacion"_s, u"IdObra"_s, {u"32767"_s, u"32768"_s}});
+    start();
+    hands->go(SelectNumber);
+    selectOne(u"WOR Work"_s, u"Same as"_s, u"a"_s);
+    accept();
+    EXPECT_EQ(found(), u"1"_s);
+    selectOne(u"WOR Work"_s, u"Contains"_s, u"a"_s);
+    boxes.expect(u"Has occurred Error: 6"_s, box::Critical);
+    accept();
+    EXPECT_EQ(found(), u"1 2"_s);
+}
+
+} // namespace
