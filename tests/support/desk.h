@@ -16,9 +16,11 @@ struct Rows {
 };
 
 class Desk : public ::testing::Test {
+  public:
+    ~Desk() override;
+
   protected:
     Desk();
-    ~Desk() override;
 
     /// Fills the catalogue before the program opens it.
     void put(const Rows& rows);
