@@ -29,6 +29,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(u"Zarvelia"_s);
     QApplication::setApplicationVersion(QStringLiteral(ZV_VERSION));
+    QApplication::setDesktopFileName(u"example.brumatec.zarvelia"_s);
     setFatalErrorHandler(endByError);
     forms::QtMessageBoxes boxes;
     forms::QtFileDialogs files;
