@@ -1,9 +1,11 @@
 # The Debian packages that the scripts need, and how a missing one is installed. Read by ./run, ./test and .ci/run.
+# shellcheck shell=bash disable=SC2034 # the lists are for those who read this
 
 packages_build=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libsqlitecpp-dev libsqlite3-dev libicu-dev
     libcli11-dev mdbtools-dev pkgconf fonts-comic-neue)
 packages_test=(libgtest-dev libgmock-dev poppler-utils)
-packages_check=(git clang-format clang-tidy)
+packages_packaging=(dpkg-dev file lintian desktop-file-utils appstream mandoc)
+packages_check=(git clang-format clang-tidy shellcheck)
 
 # need_packages NAME...: installs those that are missing, and says so. Does nothing, and needs no network, when all are
 # there.
