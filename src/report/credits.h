@@ -19,7 +19,12 @@ struct CreditsPlan {
     Qt::Alignment alignment;
 };
 
-inline constexpr QStringView Product = u"Zarvelia", Edition = u"English Version", Version = u"Version 1.0";
+inline constexpr QStringView Product = u"Zarvelia", Edition = u"English Version";
+/// The release without its last number.
+inline constexpr QStringView Version = [] {
+    constexpr std::u16string_view Release = u"Version " ZV_VERSION;
+    return QStringView(Release.substr(0, Release.rfind(u'.')));
+}();
 inline constexpr QStringView Maker = u"Brumatec", WebAddress = u"www.brumatec.example";
 inline constexpr QStringView MailAddress = u"info@brumatec.example", Year = u"2026";
 
