@@ -76,6 +76,7 @@ void appendPerson(Shapes& shapes, Draw surname, int foot = 7050) {
                     box(BoxLeft, 1050, 720), box(5580, 1050, 720), caption(1455, 5), memo(1455, foot)});
 }
 
+/// The name of the record, seen under a picture of its own only.
 void appendName(Shapes& shapes) { append(shapes, {headingBar(900, 3310, 16)}); }
 
 void appendBack(Shapes& shapes) { shapes.push_back({Draw::Button, {3390, 7230, 1050, 360}, u"Back"}); }
@@ -90,6 +91,15 @@ void appendGroup(Shapes& shapes) {
     }
     shapes.push_back({Draw::Button, {8700, 5115, 1170, 420}, u"Add"});
     shapes.push_back({Draw::Button, {8700, 5625, 1170, 420}, u"Remove"});
+}
+
+Shapes showing(bool reduced) {
+    Shapes shapes;
+    appendPicture(shapes, {});
+    appendName(shapes);
+    appendPerson(shapes, Draw::Box);
+    appendShowParts(shapes, reduced);
+    return shapes;
 }
 
 Shapes modifying(bool fromRecording) {
@@ -184,23 +194,8 @@ Shapes addWorkWide() {
     return shapes;
 }
 
-Shapes showComposer() {
-    Shapes shapes;
-    appendPicture(shapes, u"compositor");
-    appendName(shapes);
-    appendPerson(shapes, Draw::Box);
-    appendShowParts(shapes, false);
-    return shapes;
-}
-
-Shapes showComposerReduced() {
-    Shapes shapes;
-    appendPicture(shapes, u"compositor");
-    appendName(shapes);
-    appendPerson(shapes, Draw::Box);
-    appendShowParts(shapes, true);
-    return shapes;
-}
+Shapes showComposer() { return showing(false); }
+Shapes showComposerReduced() { return showing(true); }
 
 Shapes modifyComposer() { return modifying(false); }
 Shapes modifyComposerFromRecording() { return modifying(true); }
@@ -208,7 +203,6 @@ Shapes modifyComposerFromRecording() { return modifying(true); }
 Shapes showConductorWithGroup() {
     Shapes shapes;
     appendPicture(shapes, u"director");
-    appendName(shapes);
     appendPerson(shapes, Draw::Box, 4665);
     appendGroup(shapes);
     appendShowParts(shapes, true);
@@ -219,7 +213,6 @@ Shapes showConductorWithGroup() {
 Shapes showPerformerWithGroup() {
     Shapes shapes;
     appendPicture(shapes, u"interprete");
-    appendName(shapes);
     append(shapes,
            {caption(240, 4), line(240), caption(645, 7), line(645), caption(1050, 12), line(1050), caption(1455, 5),
             box(BoxLeft, 1455, 720), box(5580, 1455, 720), caption(1860, 5), memo(1860, 4665)});
