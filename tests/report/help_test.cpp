@@ -1,43 +1,147 @@
-// The pages of the help: their chains, the page that is remembered, their words; and the screen about the program.
+// The pages of the help: their chains, the page that is remembered, their words and drawings; and what the opening
+// screen and the screen about the program say of it.
 #include "report/help_page.h"
+#include "report/mock_ups.h"
 #include "support/desk.h"
 #include <QTextEdit>
+#include <QVersionNumber>
 
 namespace zv::test {
 namespace {
 
 using namespace Qt::StringLiterals;
+namespace mock_ups = report::mock_ups;
 
 struct Page {
     int number;
-    const char* form;
-    const char* text;
-    const char* caption; ///< of the label with the tip "Página"
-    char last;           ///< letter of the last point
-};
-const Page Pages[] = {
-    {58, "FormAyudaGeneral", "TxtAyudaGeneral", "1 - 1", 'O'}, {59, "FormAyudaAnadir1", "TxtAyudaAN1", "1 - 3", 'J'},
-    {60, "FormAyudaAnadir2", "TxtAyudaAN2", "", 'G'},          {61, "FormAyudaAnadir3", "TxtAyudaAN3", "", 'L'},
-    {62, "FormAyudaSeleccionar", "TxtAyudaSE", "1 - 1", 'U'},  {63, "FormAyudaMostrar1", "TxtAyudaME1", "1 - 3", 'G'},
-    {64, "FormAyudaMostrar2", "TxtAyudaME2", "", 'G'},         {65, "FormAyudaMostrar3", "TxtAyudaME3", "", 'F'},
-    {66, "FormAyudaListar", "TxtAyudaLI1", "", 'L'},           {67, "FormAyudaListar2", "TxtAyudaLI2", "", 'I'},
+    QString form, text;
+    QString caption; ///< of the label with the tip "Página"
+    char16_t last;   ///< letter of the last point
+    report::Shapes (*upper)();
+    report::Shapes (*lower)();
+    QStringList statements; ///< words that stand as they are, blanks included
 };
 
-/// Words that stand as they are, blanks included. Several of them lie across lines of their file.
-const std::pair<int, const char*> Statements[] = {
-    {58, "\"Zarvelia ®\" is a Cataloguing Computer Program, designed exclusively for the World of Classical Music."},
+const Page Pages[] = {
     {58,
-     "\"Station\", \"http://www.\", distributed between \"Records I\" and \"Records II\" in a total of 143 fields."},
-    {58, "whose fields are formed by records from the other 6 components of \"Records I\"."},
-    {58, "VERY IMPORTANT: Any data being introduced will be stored at DataZV.mdb."},
-    {60, "The 3 different formations  are catalogued in the same screen, but you should fill in for each new record "
-         "only one field of the 3. (Orchestra or Ensemble or Choir)."},
-    {61, "The number of performers is not a field, it is just informative."},
-    {62, "The two first filters selection result will apply always to the third filter, and to the result will apply "
-         "the fourth, and so on."},
-    {65, "(10 Orchestras, 10 Conductors and 100 Performers maximum)"},
-    {66, "The zoom allows you to see till 23 \"Movements\" from a \"Work\" o 23 lines of \"Notes\"."},
-    {67, "The printed  standard page will show:"},
+     u"FormAyudaGeneral"_s,
+     u"TxtAyudaGeneral"_s,
+     u"1 - 1"_s,
+     u'O',
+     mock_ups::listOfPictures,
+     mock_ups::report,
+     {uR"("Zarvelia ®" is a Cataloguing Computer Program, designed exclusively for the World of Classical Music.)"_s,
+      uR"("Composer", "Work", "Orchestra-Ensemble-Choir", "Conductor", "Performer", "Format", "Recording", )"
+      uR"("Instrument", "Grouping", "Event", "Scenario", "Publication-Video", "Station", "http://www.", )"
+      uR"(distributed between "Records I" and "Records II" in a total of 143 fields.)"_s,
+      uR"~("Add (New)", "Select", "Show - Edit", "List - Print".)~"_s,
+      u"A zoom is available to modify row height, with many display possibilities."_s,
+      uR"(The Databases are independent, except for "Recording", which is a Relational Database whose fields are )"
+      uR"(formed by records from the other 6 components of "Records I".)"_s,
+      uR"("Report" displays the general status of all the records through the counters.)"_s,
+      u"Images (.bmp, .gif, .jpg) with an approximate size of 200 pixels on its bigger side must be used."_s,
+      u"The images are automatically resized."_s,
+      uR"(In the fields "Notes" it is possible to paste text with Ctrl+V (25,000 characters maximum).)"_s,
+      u"VERY IMPORTANT: Any data being introduced will be stored at DataZV.mdb."_s}},
+    {59,
+     u"FormAyudaAnadir1"_s,
+     u"TxtAyudaAN1"_s,
+     u"1 - 3"_s,
+     u'J',
+     mock_ups::addComposerEmpty,
+     mock_ups::addComposerWithPicture,
+     {uR"~("Add (New)" is used for the entry of new records to the Databases.)~"_s, uR"("Save")"_s,
+      u"The Identifier (highlighted) must be filled."_s, uR"("Undo" remove the last entered record.)"_s,
+      uR"("Remove")"_s, uR"("Notes")"_s}},
+    {60,
+     u"FormAyudaAnadir2"_s,
+     u"TxtAyudaAN2"_s,
+     {},
+     u'G',
+     mock_ups::addOrchestra,
+     mock_ups::addWorkWide,
+     {uR"("Orchestra-Ensemble-Choir")"_s, uR"("Work")"_s,
+      u"The 3 different formations  are catalogued in the same screen, but you should fill in for each new record "
+      u"only one field of the 3. (Orchestra or Ensemble or Choir)."_s,
+      u"Counters indicate the number of movements (150 maximum) and their total duration."_s, uR"("Extend/Reduce")"_s}},
+    {61,
+     u"FormAyudaAnadir3"_s,
+     u"TxtAyudaAN3"_s,
+     {},
+     u'L',
+     mock_ups::addRecording,
+     mock_ups::showConductorWithGroup,
+     {uR"("Recording")"_s, u"a message will warn you"_s, uR"("Notes")"_s, uR"("Save")"_s,
+      uR"(The Identifier is "Format".)"_s, u"The number of performers is not a field, it is just informative."_s}},
+    {62,
+     u"FormAyudaSeleccionar"_s,
+     u"TxtAyudaSE"_s,
+     u"1 - 1"_s,
+     u'U',
+     mock_ups::selectComposer,
+     nullptr,
+     {uR"("New")"_s, uR"("Field")"_s, uR"("Criteria")"_s,
+      uR"("Same as", "Contains", "Does not Contain", "Smaller than" y "Bigger than")"_s, uR"("Filter Value")"_s,
+      uR"("Add")"_s, uR"("AND")"_s, uR"("OR")"_s, u"20 maximum"_s, uR"("Ascending")"_s, uR"("Descending")"_s,
+      uR"("Historical")"_s, u"entry order of the records"_s, uR"("Accept")"_s, uR"("All")"_s,
+      u"The two first filters selection result will apply always to the third filter, and to the result will apply "
+      u"the fourth, and so on."_s,
+      uR"("Date", "Date 1", "Date 2", "Century", "Total Time" and "No. of Movements" are numeric)"_s,
+      uR"("Recording" admits only "Historical" order.)"_s,
+      uR"(At "Work", the "Total Time" value will be given in seconds.)"_s}},
+    {63,
+     u"FormAyudaMostrar1"_s,
+     u"TxtAyudaME1"_s,
+     u"1 - 3"_s,
+     u'G',
+     mock_ups::showComposer,
+     mock_ups::showComposerReduced,
+     {uR"("Show - Edit" will Show one by one the Selected records and allows its Edition.)"_s,
+      uR"("Previous - Next")"_s, uR"("No. of Order")"_s, u"Type a number to go there"_s, uR"("Reduce/Extend")"_s,
+      uR"("Current Selection")"_s}},
+    {64,
+     u"FormAyudaMostrar2"_s,
+     u"TxtAyudaME2"_s,
+     {},
+     u'G',
+     mock_ups::modifyComposer,
+     mock_ups::modifyComposerFromRecording,
+     {uR"("Modify")"_s, uR"(the folders are disabled until "Accept" or "Cancel")"_s,
+      u"Do not remove the Identifier. A message will warn you."_s, uR"("Remove")"_s, uR"("Back")"_s,
+      uR"("Recording")"_s}},
+    {65,
+     u"FormAyudaMostrar3"_s,
+     u"TxtAyudaME3"_s,
+     {},
+     u'F',
+     mock_ups::showPerformerWithGroup,
+     nullptr,
+     {uR"("Add")"_s, uR"("Remove")"_s, u"(10 Orchestras, 10 Conductors and 100 Performers maximum)"_s,
+      u"If a record is modified or removed while a group is being created, the group will not be created."_s}},
+    {66,
+     u"FormAyudaListar"_s,
+     u"TxtAyudaLI1"_s,
+     {},
+     u'L',
+     mock_ups::listOfTexts,
+     mock_ups::listOfPictures,
+     {uR"("List - Print" provides Lists for the Selected records.)"_s,
+      uR"("Expand Rows" varies the height of the rows (zoom). Initial value is 1.)"_s,
+      uR"("Zoom 5" makes the height 5 times bigger than the initial one.)"_s,
+      u"Each time you click the vertical bar it will advance one page, never a record. Column width can be "
+      u"modified."_s,
+      u"The record on the top row will stay at the window even if the zoom is used."_s,
+      uR"(The zoom allows you to see till 23 "Movements" from a "Work" o 23 lines of "Notes".)"_s,
+      u"Try to list, images only, with zoom 20."_s}},
+    {67,
+     u"FormAyudaListar2"_s,
+     u"TxtAyudaLI2"_s,
+     {},
+     u'I',
+     mock_ups::listOfTexts,
+     mock_ups::printedPage,
+     {uR"(The fields are chosen as for "List".)"_s, u"The printed  standard page will show:"_s,
+      u"Complete text of the fields."_s, uR"(It is suggestible to "List" before using "Print".)"_s}},
 };
 
 class HelpTest : public Desk {
@@ -48,40 +152,55 @@ class HelpTest : public Desk {
         strip().MostrarFormulario(number);
     }
     bool has(const QString& button) { return hands->screen()->findChild<QPushButton*>(button) != nullptr; }
-    QTextEdit& text(const Page& page) { return hands->get<QTextEdit>(QString::fromLatin1(page.text)); }
+    QTextEdit& text(const Page& page) { return hands->get<QTextEdit>(page.text); }
+    /// All words of the labels on display, from the top down.
+    QString lines() {
+        std::vector<QLabel*> labels;
+        for (QLabel* label : hands->screen()->findChildren<QLabel*>())
+            if (!label->text().isEmpty()) labels.push_back(label);
+        std::ranges::sort(labels, {}, [](const QLabel* label) { return label->y(); });
+        QStringList texts;
+        for (const QLabel* label : labels) texts += label->text();
+        return texts.join(u'|');
+    }
 };
 
 TEST_F(HelpTest, everyPageSaysItsPoints) {
     start();
     for (const Page& page : Pages) {
+        SCOPED_TRACE(page.number);
         show(page.number);
-        hands->screen(QString::fromLatin1(page.form));
+        hands->screen(page.form);
         QTextEdit& words = text(page);
         EXPECT_TRUE(words.isReadOnly());
-        EXPECT_FALSE(words.document()->firstBlock().text().isEmpty());
         QString letters, expected;
         for (QTextBlock block = words.document()->begin(); block.isValid(); block = block.next())
             if (block.text().size() > 2 && block.text()[1] == u'\t') letters += block.text()[0];
-        for (char letter = 'A'; letter <= page.last; ++letter) expected += QChar::fromLatin1(letter);
-        EXPECT_EQ(letters, expected) << page.form;
-        for (const auto& [number, statement] : Statements)
-            if (number == page.number) {
-                EXPECT_TRUE(words.toPlainText().contains(QString::fromUtf8(statement))) << statement;
-            }
+        for (char16_t letter = u'A'; letter <= page.last; ++letter) expected += QChar(letter);
+        EXPECT_EQ(letters, expected);
+        for (const QString& statement : page.statements)
+            EXPECT_TRUE(words.toPlainText().contains(statement)) << statement.toStdString();
         QString caption;
         for (const QLabel* label : hands->screen()->findChildren<QLabel*>())
             if (label->toolTip() == u"Página"_s) caption += label->text();
-        EXPECT_EQ(caption, QString::fromLatin1(page.caption)) << page.form;
+        EXPECT_EQ(caption, page.caption);
     }
 }
 
-TEST_F(HelpTest, everyLetterOnADrawingIsAPointOfItsPage) {
+// Each letter on a drawing is a point of its page; what it stands on lies on the drawing, in the twips of a screen.
+TEST_F(HelpTest, everyPageHasItsDrawingsWithLettersOnThem) {
+    constexpr QRect Drawing(0, 0, 10320, 7755);
     ASSERT_EQ(report::helpPages().size(), std::size(Pages));
-    for (std::size_t i = 0; i < std::size(Pages); ++i)
-        for (const report::Picturing* drawing : {&report::helpPages()[i].upper, &report::helpPages()[i].lower})
-            for (const report::Badge& badge : drawing->badges)
-                EXPECT_TRUE(badge.letter >= u'A' && badge.letter <= Pages[i].last)
-                    << Pages[i].form << ' ' << static_cast<char>(badge.letter);
+    for (std::size_t i = 0; i < std::size(Pages); ++i) {
+        SCOPED_TRACE(Pages[i].number);
+        const report::HelpPage& page = report::helpPages()[i];
+        EXPECT_TRUE(page.upper.shapes == Pages[i].upper && page.lower.shapes == Pages[i].lower);
+        for (const report::Picturing* drawing : {&page.upper, &page.lower})
+            for (const report::Badge& badge : drawing->badges) {
+                EXPECT_TRUE(badge.letter >= u'A' && badge.letter <= Pages[i].last) << static_cast<char>(badge.letter);
+                EXPECT_TRUE(Drawing.contains(badge.x, badge.y)) << static_cast<char>(badge.letter);
+            }
+    }
 }
 
 // No word is lost beside the memo, and what hangs before the points keeps its place, whatever the scale.
@@ -137,15 +256,22 @@ TEST_F(HelpTest, aChainOpensWhereItWasLeft) {
     EXPECT_EQ(strip().AyudaListar, 67);
 }
 
-TEST_F(HelpTest, aboutNamesTheProgramAndItsMaker) {
+// The version is that of the release, without its last number.
+TEST_F(HelpTest, theProgramAndItsMakerAreNamed) {
     start();
+    const QVersionNumber release = QVersionNumber::fromString(QStringLiteral(ZV_VERSION));
+    const QString head =
+        u"Zarvelia|English Version|Version %1.%2|"_s.arg(release.majorVersion()).arg(release.minorVersion());
+    show(0);
+    hands->screen(u"FormPresentacion"_s);
+    EXPECT_EQ(lines(), head + u"Brumatec|www.brumatec.example|2026|Enter"_s);
+    EXPECT_FALSE(hands->get<forms::Picture>(u"ImagenLogoOrquesta"_s).picture().isEmpty());
+    EXPECT_EQ(hands->get<forms::Label>(u"LabContinuar"_s).toolTip(), u"     Enter     "_s);
+    hands->click(u"LabContinuar"_s);
+    hands->screen(u"FormReg1MosCompositor"_s);
     hands->go(68);
     hands->screen(u"FormAcercaDe"_s);
-    QStringList lines;
-    for (const QLabel* label : hands->screen()->findChildren<QLabel*>())
-        if (!label->text().isEmpty()) lines += label->text();
-    for (const QString& line : {u"Zarvelia"_s, u"English Version"_s, u"Brumatec"_s, u"info@brumatec.example"_s})
-        EXPECT_TRUE(lines.contains(line)) << line.toStdString();
+    EXPECT_EQ(lines(), head + u"Brumatec|www.brumatec.example|info@brumatec.example|2026"_s);
     EXPECT_FALSE(hands->get<forms::Picture>(u"ImagenLogoOrquesta"_s).picture().isEmpty());
 }
 
