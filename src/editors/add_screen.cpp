@@ -24,10 +24,10 @@ AddScreen::AddScreen(shell::Context& context, QWidget* parent, const QString& na
         if (kind.identifierTip) box(i).line->setToolTipText(store::EtiIdentificador);
     }
     addCounters();
-    BtnGuardar = addButton(u"BtnGuardar"_s, u"Save"_s, u"Save the Record"_s, {7380, 7200, 1170, 420});
-    BtnDeshacer = addButton(u"BtnDeshacer"_s, u"Undo"_s, u"Remove the Last Record"_s, {8700, 7200, 1170, 420});
-    BtnGuardar->Click = [this] { BtnGuardar_Click(); };
-    BtnDeshacer->Click = [this] { BtnDeshacer_Click(); };
+    BtnGuardar = addButton(u"BtnGuardar"_s, u"Save"_s, u"Save the Record"_s, {7380, 7200, 1170, 420},
+                           [this] { BtnGuardar_Click(); });
+    BtnDeshacer = addButton(u"BtnDeshacer"_s, u"Undo"_s, u"Remove the Last Record"_s, {8700, 7200, 1170, 420},
+                            [this] { BtnDeshacer_Click(); });
     BtnImagenEliminar->Click = [this] { BtnImagenEliminar_Click(); };
     Imagen->DblClick = [this] { Imagen_DblClick(); };
 }
@@ -39,14 +39,19 @@ void AddScreen::addCounters() {
     addLabel({}, Role::Heading, u"Add"_s, {150, 90, 1200, 300}, type::L, true, ToLeft, frame);
     addLabel({}, Role::Heading, u"RECORDS"_s, {1500, 105, 1350, 270}, type::S, true, ToRight, frame);
     add<Rule>({}, {150, 435, 2700, 0}, frame);
+    const auto value = [&](const QString& name, const QString& text, const TwipsRect& rect, const QString& tip) {
+        Label* made = addLabel(name, Role::Value, text, rect, type::M, false, ToRight, frame);
+        made->setToolTipText(tip);
+        return made;
+    };
     const auto row = [&](const QString& caption, int top, const QString& name, const QString& tip,
                          const QString& fieldsName, const QString& fieldsTip) {
         addLabel({}, Role::Caption, caption, {150, top, 660, 315}, type::G, true, ToLeft, frame);
-        Label* value = addValue(name, u"0"_s, {900, top, 870, 315}, tip, frame);
+        Label* records = value(name, u"0"_s, {900, top, 870, 315}, tip);
         addLabel({}, Role::Unit, u"R"_s, {1800, top, 180, 315}, type::S, false, ToLeft, frame);
-        addValue(fieldsName, fields, {2070, top, 510, 315}, fieldsTip, frame);
+        value(fieldsName, fields, {2070, top, 510, 315}, fieldsTip);
         addLabel({}, Role::Unit, u"F"_s, {2610, top, 180, 315}, type::S, false, ToLeft, frame);
-        return value;
+        return records;
     };
     LabNumRegNuevos = row(u"New"_s, 555, u"LabNumRegNuevos"_s, u"No. of New Records"_s, u"Label6"_s,
                           u"No. of Fields per New Record"_s);

@@ -6,7 +6,6 @@
 namespace zv::editors {
 
 using namespace Qt::StringLiterals;
-using forms::Button;
 using forms::Label;
 using forms::Memo;
 using forms::Picture;
@@ -73,28 +72,6 @@ void EditorScreen::addBoxes(const EditorLayout& layout) {
         made.line->setMaxLength(field(i).limit);
         if (field(i).value == Value::Year) made.line->setToolTipText(u"Numerical"_s);
     }
-}
-
-Button* EditorScreen::addButton(const QString& name, const QString& caption, const QString& tip,
-                                const forms::TwipsRect& rect) {
-    auto* button = add<Button>(name, rect);
-    button->setText(caption);
-    button->setToolTipText(tip);
-    return button;
-}
-
-Label* EditorScreen::addLabel(const QString& name, Role role, const QString& text, const forms::TwipsRect& rect,
-                              int type, bool bold, Qt::Alignment alignment, QWidget* inside) {
-    auto* label = add<Label>(name, rect, inside);
-    label->dress(role, text, type, bold, alignment);
-    return label;
-}
-
-Label* EditorScreen::addValue(const QString& name, const QString& text, const forms::TwipsRect& rect,
-                              const QString& tip, QWidget* inside) {
-    Label* label = addLabel(name, Role::Value, text, rect, forms::type::M, false, forms::ToRight, inside);
-    label->setToolTipText(tip);
-    return label;
 }
 
 QString EditorScreen::headingText() const {

@@ -33,15 +33,9 @@ class EditorScreen : public shell::Screen {
     int fieldCount() const { return static_cast<int>(kind_.fields.size()); }
     const store::Field& field(int i) const { return kind_.fields[static_cast<std::size_t>(i)]; }
     const Box& box(int i) const { return boxes_[static_cast<std::size_t>(i)]; }
+    /// What the box of a column holds.
+    QString boxText(QStringView column) const { return box(kind_.indexOf(column)).Text(); }
     int pictureField() const { return fieldCount() - 1; }
-
-    forms::Button* addButton(const QString& name, const QString& caption, const QString& tip,
-                             const forms::TwipsRect& rect);
-    /// A caption, heading, unit or value without logic, in a frame or on the screen.
-    forms::Label* addLabel(const QString& name, forms::Role role, const QString& text, const forms::TwipsRect& rect,
-                           int type, bool bold, Qt::Alignment alignment, QWidget* inside = nullptr);
-    forms::Label* addValue(const QString& name, const QString& text, const forms::TwipsRect& rect, const QString& tip,
-                           QWidget* inside);
 
     /// The name under the picture: the texts of its fields joined by blanks.
     virtual QString headingText() const;

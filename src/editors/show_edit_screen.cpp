@@ -1,6 +1,7 @@
 #include "editors/show_edit_screen.h"
 
 #include "platform/base/text.h"
+#include "platform/forms/decoration.h"
 
 namespace zv::editors {
 
@@ -12,20 +13,87 @@ namespace {
 /// What stands for the key while no record is shown.
 constexpr qint32 NoKey = -2;
 
+const WalkLayout Layout{
+    .frame = {240, 3750, 3000, 3870},
+    .heading = {150, 120, 1500, 270},
+    .reduce = {1950, 105, 900, 300},
+    .show = {150, 660, 810, 330},
+    .order = {1005, 660, 735, 330},
+    .orderNumber = {1830, 660, 1020, 330},
+    .bar = {150, 1215, 2700, 345},
+    .directions = {150, 1620, 2700, 270},
+    .selection = {150, 2385, 2700, 270},
+    .selected = {150, 2670, 870, 315},
+    .selectedUnit = {1050, 2670, 180, 315},
+    .selectedFields = {1260, 2670, 435, 315},
+    .selectedFieldsUnit = {1725, 2670, 150, 315},
+    .filters = {1935, 2670, 585, 315},
+    .filtersUnit = {2550, 2670, 300, 315},
+    .removal = {150, 3120, 2700, 270},
+    .removed = {150, 3405, 870, 315},
+    .removedUnit = {1050, 3405, 180, 315},
+    .removedFields = {1260, 3405, 435, 315},
+    .removedFieldsUnit = {1725, 3405, 150, 315},
+    .rules = {480, 2280},
+    .orderAlignment = forms::ToRight,
+    .directionsType = forms::type::G,
+    .valueType = forms::type::M,
+    .back = {4800, 7230, 1050, 360},
+    .modify = {4740, 7200, 1170, 420},
+    .remove = {6060, 7200, 1170, 420},
+    .accept = {7380, 7200, 1170, 420},
+    .undo = {8700, 7200, 1170, 420},
+    .backType = forms::type::M,
+};
+
 } // namespace
 
+ShowEditScreen::ShowEditScreen(shell::Context& context, QWidget* parent, const QString& name,
+                               const store::KindInfo& kind)
+    : EditorScreen(context, parent, name, kind), walk_(*this, store(), kind, Layout) {
+    connectButtons();
+    connectBoxes();
+    for (int i = 0; i < fieldCount(); ++i) box(i).setLocked(true);
+    Imagen->setEnabled(false);
+    Imagen->DblClick = [this] { Imagen_DblClick(); };
+    BtnImagenEliminar->Click = [this] { BtnImagenEliminar_Click(); };
+}
+
+void ShowEditScreen::connectButtons() {
+    walk_.BtnRegresar->Click = [this] { BtnRegresar_Click(); };
+    walk_.BtnModificar->Click = [this] { BtnModificar_Click(); };
+    walk_.BtnEliminar->Click = [this] { BtnEliminar_Click(); };
+    walk_.BtnGuardar->Click = [this] { BtnGuardar_Click(); };
+    walk_.BtnDeshacer->Click = [this] { BtnDeshacer_Click(); };
+}
+
+void ShowEditScreen::connectBoxes() {
+    for (int i = 0; i < fieldCount(); ++i) {
+        if (box(i).line) {
+            box(i).line->Change = [this, i] { changed(i); };
+            box(i).line->GotFocus = [this, i] {
+                if (!walk_.handFocusOn()) box(i).line->selectWhole();
+            };
+        } else if (box(i).memo) {
+            box(i).memo->GotFocus = [this] { walk_.handFocusOn(); };
+        }
+    }
+}
+
+void ShowEditScreen::paintBehind(QPainter& painter) {
+    paintBackground(painter, forms::Background::ShowEdit, scale());
+    paintSpine(painter, scale());
+}
+
 void ShowEditScreen::Form_Load() {
-    LabNumRegEliminados->setCaption(QString::number(memory().ContEli));
-    LabNumRegSeleccion->setCaption(QString::number(memory().ContSel));
-    LabNumFiltros->setCaption(QString::number(memory().ContFil));
-    if (memory().RedAmp) BtnReducirAmpliar_Click();
+    walk_.load();
     if (kind().partOfRecording && (module1().RegresoMosGrabacion || module1().RegresoAnaGrabacion)) revealBack();
 }
 
 void ShowEditScreen::revealBack() {
-    BtnRegresar->setLeft(3390);
-    BtnRegresar->setTop(7230);
-    BtnRegresar->raise();
+    walk_.BtnRegresar->setLeft(3390);
+    walk_.BtnRegresar->setTop(7230);
+    walk_.BtnRegresar->raise();
 }
 
 void ShowEditScreen::Form_Unload() {
@@ -37,22 +105,18 @@ void ShowEditScreen::setKey(qint32 key) {
 }
 
 void ShowEditScreen::Carga() {
-    Navegable = false;
+    walk_.Navegable = false;
     setKey(NoKey);
-    jet::Recordset& rows = Data().Recordset();
-    if (rows.RecordCount() == 0) {
+    if (!walk_.hasRows()) {
         Limpiar();
     } else {
-        rows.MoveLast();
-        HScroll->setMax(rows.RecordCount());
-        HScroll->setValue(std::min<qint32>(HScroll->Max(), memory().Posicion));
-        rows.setAbsolutePosition(HScroll->Value() - 1);
+        walk_.standOnRemembered();
         setKey(toLong(Val(store().bound(kind().kind, 0))));
         showRow();
-        TxtOrden->setText(QString::number(HScroll->Value()));
+        walk_.TxtOrden->setText(QString::number(walk_.HScroll->Value()));
     }
-    Navegable = true;
-    ValoresInicio();
+    walk_.Navegable = true;
+    walk_.ValoresInicio();
 }
 
 void ShowEditScreen::showRow() {
@@ -80,56 +144,20 @@ void ShowEditScreen::showRow() {
 
 // The order number stays "0": it is set while the walk is off.
 void ShowEditScreen::Limpiar() {
-    Navegable = false;
-    HScroll->setMax(1);
-    HScroll->setValue(1);
-    TxtOrden->setText(u"0"_s);
-    Navegable = true;
+    walk_.Navegable = false;
+    walk_.HScroll->setMax(1);
+    walk_.HScroll->setValue(1);
+    walk_.TxtOrden->setText(u"0"_s);
+    walk_.Navegable = true;
     for (int i = 0; i < fieldCount(); ++i) box(i).setText({});
     BtnImagenEliminar_Click();
 }
 
-void ShowEditScreen::ValoresInicio() {
-    BtnDeshacer->setEnabled(false);
-    BtnGuardar->setEnabled(false);
-    BtnModificar->setEnabled(true);
-    BtnEliminar->setEnabled(true);
-    markState();
-}
-
 void ShowEditScreen::Bloquear(bool locked) {
-    Navegable = locked;
+    walk_.lock(locked);
     for (int i = 0; i < fieldCount(); ++i) box(i).setLocked(locked);
     Imagen->setEnabled(!locked);
     BtnImagenEliminar->setVisible(!locked);
-    HScroll->setEnabled(locked);
-    TxtOrden->setEnabled(locked);
-    BtnDeshacer->setEnabled(!locked);
-    BtnGuardar->setEnabled(!locked);
-    markState();
-}
-
-void ShowEditScreen::markState() {
-    setInForce(BtnModificar, BtnGuardar->isEnabled() && !BtnEliminar->isEnabled());
-    setInForce(BtnEliminar, BtnGuardar->isEnabled() && !BtnModificar->isEnabled());
-}
-
-void ShowEditScreen::HScroll_Change() {
-    if (!Navegable || !hasRows()) return;
-    TxtOrden->setText(QString::number(HScroll->Value()));
-    Data().Recordset().setAbsolutePosition(HScroll->Value() - 1);
-    memory().Posicion = HScroll->Value();
-    Carga();
-}
-
-void ShowEditScreen::TxtOrden_Change() {
-    if (!Navegable) return;
-    const QString text = TxtOrden->Text();
-    const double v = numberOf(text).value_or(0);
-    if (v >= 1 && v <= Data().Recordset().RecordCount())
-        HScroll->setValue(toInteger(v));
-    else
-        TxtOrden->setText({});
 }
 
 void ShowEditScreen::changed(int i) {
@@ -144,31 +172,26 @@ void ShowEditScreen::changed(int i) {
 }
 
 void ShowEditScreen::BtnModificar_Click() {
-    if (!BtnEliminar->isEnabled() || !hasRows()) return;
-    Navegable = false;
+    if (!walk_.mayModify()) return;
+    walk_.Navegable = false;
     context().navigator->BloquearSolapas(true);
-    BtnEliminar->setEnabled(false);
+    walk_.BtnEliminar->setEnabled(false);
     Bloquear(false);
     placeRemoveButton();
     BtnImagenEliminar->setVisible(!DialogoImagen.FileName.isEmpty());
 }
 
 void ShowEditScreen::BtnEliminar_Click() {
-    if (!BtnModificar->isEnabled() || !hasRows()) return;
+    if (!walk_.mayRemove()) return;
     if (kind().partOfRecording && MsgBox(store::MensaEliRegPosibleGrabacion, box::YesNoInformation) == box::No) return;
     context().navigator->BloquearSolapas(true);
-    BtnModificar->setEnabled(false);
-    BtnGuardar->setEnabled(true);
-    BtnDeshacer->setEnabled(true);
-    HScroll->setEnabled(false);
-    TxtOrden->setEnabled(false);
-    markState();
+    walk_.startRemoval();
 }
 
 void ShowEditScreen::accept() {
-    if (BtnModificar->isEnabled())
+    if (walk_.BtnModificar->isEnabled())
         modify();
-    else if (BtnEliminar->isEnabled())
+    else if (walk_.BtnEliminar->isEnabled())
         removeRow();
 }
 
@@ -202,23 +225,9 @@ void ShowEditScreen::removeRow() {
         reportAndReload();
         return;
     }
-    store::KindMemory& of = memory();
-    jet::Recordset& rows = Data().Recordset();
-    if (rows.RecordCount() != 0) {
-        if (of.Posicion != 1) --of.Posicion;
-        --of.Cont;
-        of.ContSel = rows.RecordCount();
-        rows.setAbsolutePosition(std::min<qint32>(of.Posicion, of.ContSel) - 1);
-    } else {
-        // A filter's last row counts as the table's.
-        of.Posicion = 1;
-        of.Cont = 0;
-        of.ContSel = 0;
-    }
+    walk_.stepAfterRemoval();
     Carga();
-    LabNumRegEliminados->setCaption(CStr(Val(LabNumRegEliminados->Caption()) + 1));
-    of.ContEli = toLong(Val(LabNumRegEliminados->Caption()));
-    LabNumRegSeleccion->setCaption(QString::number(of.ContSel));
+    walk_.showRemoval();
     relock();
 }
 
@@ -236,27 +245,17 @@ void ShowEditScreen::relock() {
 }
 
 void ShowEditScreen::BtnDeshacer_Click() {
-    Navegable = true;
+    walk_.Navegable = true;
     Carga();
     context().navigator->BloquearSolapas(false);
     Bloquear(true);
 }
 
 void ShowEditScreen::BtnImagenEliminar_Click() {
-    if (BtnGuardar->isEnabled()) removePicture();
+    if (walk_.BtnGuardar->isEnabled()) removePicture();
 }
 
 void ShowEditScreen::Imagen_DblClick() { choosePicture(); }
-
-void ShowEditScreen::BtnReducirAmpliar_Click() {
-    Frame1->setVisible(false);
-    const bool reduce = BtnReducirAmpliar->Caption() == store::EtiReducir;
-    memory().RedAmp = reduce;
-    Frame1->setHeight(reduce ? 2255 : 3870);
-    Frame1->setTop(reduce ? 4260 : 3750);
-    BtnReducirAmpliar->setCaption(reduce ? store::EtiAmpliar : store::EtiReducir);
-    Frame1->setVisible(true);
-}
 
 // Both jumps unload this form; what follows them reaches only what outlives it.
 void ShowEditScreen::BtnRegresar_Click() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "editors/editor_screen.h"
+#include "editors/record_walk.h"
 
 namespace zv::editors {
 
@@ -14,8 +15,6 @@ class ShowEditScreen : public EditorScreen {
     void Carga() override;
     /// Empties the screen for an empty channel.
     virtual void Limpiar();
-    /// Sets the four buttons to the state of viewing.
-    void ValoresInicio();
     /// Locks or frees the boxes of the record.
     virtual void Bloquear(bool locked);
 
@@ -28,33 +27,22 @@ class ShowEditScreen : public EditorScreen {
     virtual void changed(int i);
     /// Accept has brought the screen back to viewing, after a success or a failure.
     virtual void accepted() {}
-    virtual void HScroll_Change();
-    void TxtOrden_Change();
     void BtnModificar_Click();
     void BtnEliminar_Click();
     void BtnGuardar_Click();
     void BtnDeshacer_Click();
     void BtnImagenEliminar_Click();
     void Imagen_DblClick();
-    void BtnReducirAmpliar_Click();
     void BtnRegresar_Click();
     void paintBehind(QPainter& painter) override;
 
-    bool hasRows() { return Data().Recordset().RecordCount() != 0; }
     /// Moves "Back" to where it is seen.
     void revealBack();
 
-    bool Navegable = false; ///< the walk may act
-    forms::Frame* Frame1;
-    forms::ScrollBar* HScroll;
-    forms::TextBox* TxtOrden;
-    forms::Button *BtnRegresar, *BtnModificar, *BtnEliminar, *BtnGuardar, *BtnDeshacer;
-    forms::Label *BtnReducirAmpliar, *LabNumRegSeleccion, *LabNumFiltros, *LabNumRegEliminados;
+    RecordWalk walk_;
 
   private:
-    void addFrame();
-    void addCounters();
-    void addButtons();
+    void connectButtons();
     void connectBoxes();
     void setKey(qint32 key);
     void accept();
@@ -62,8 +50,6 @@ class ShowEditScreen : public EditorScreen {
     void relock();
     void removeRow();
     void reportAndReload();
-    /// Shows which of the two states the screen is in.
-    void markState();
 };
 
 } // namespace zv::editors

@@ -28,8 +28,7 @@ void ListScreen::addGrid() {
     LabFondo = add<Label>(u"LabFondo"_s, {165, 120, 9990, 6360});
     LabFondo->setLook(Role::Panel);
     LineImagen = add<Rule>(u"LineImagen"_s, {195, 150, 1485, 0});
-    Label16 = dress(add<Label>(u"Label16"_s, {195, 165, 1485, 270}), Role::Heading, u"Image"_s, type::S, true,
-                    Qt::AlignCenter);
+    Label16 = addLabel(u"Label16"_s, Role::Heading, u"Image"_s, {195, 165, 1485, 270}, type::S, true, Qt::AlignCenter);
     Label16->setBackColor(colour::GridHead);
     Tabla = add<FlexGrid>(u"Tabla"_s, {1695, 150, 8430, 6300});
     Tabla->setType(type::G, false);
@@ -58,24 +57,18 @@ void ListScreen::addGrid() {
 }
 
 void ListScreen::addChoice() {
-    dress(add<Label>(u"Label10"_s, {165, 6525, 2430, 195}), Role::Heading, u"Choose Fields"_s, type::XS, true, ToLeft);
+    addLabel(u"Label10"_s, Role::Heading, u"Choose Fields"_s, {165, 6525, 2430, 195}, type::XS, true, ToLeft);
     List = add<CheckList>(u"List"_s, {165, 6720, 2430, 960});
     List->setType(type::G, false);
     List->setToolTipText(u"Fields"_s);
-    const auto button = [this](const QString& name, const QString& caption, const QString& tip, TwipsRect rect) {
-        auto* made = add<Button>(name, rect);
-        made->setText(caption);
-        made->setToolTipText(tip);
-        return made;
-    };
-    BtnListar = button(u"BtnListar"_s, u"List"_s, u"List the Records"_s, {2730, 6720, 1080, 450});
-    BtnImprimir = button(u"BtnImprimir"_s, u"Print"_s, u"Print the Records"_s, {2730, 7230, 1080, 450});
-    BtnListar->Click = [this] { BtnListar_Click(); };
-    BtnImprimir->Click = [this] { BtnImprimir_Click(); };
+    BtnListar = addButton(u"BtnListar"_s, u"List"_s, u"List the Records"_s, {2730, 6720, 1080, 450},
+                          [this] { BtnListar_Click(); });
+    BtnImprimir = addButton(u"BtnImprimir"_s, u"Print"_s, u"Print the Records"_s, {2730, 7230, 1080, 450},
+                            [this] { BtnImprimir_Click(); });
 }
 
 void ListScreen::addBars() {
-    dress(add<Label>({}, {3960, 6525, 1950, 195}), Role::Heading, u"Expand Rows"_s, type::XS, true, ToLeft);
+    addLabel({}, Role::Heading, u"Expand Rows"_s, {3960, 6525, 1950, 195}, type::XS, true, ToLeft);
     HScroll = add<ScrollBar>(u"HScroll"_s, {3960, 6750, 1965, 330});
     HScroll->setDirection(Qt::Horizontal);
     HScroll->setMin(1);
@@ -83,14 +76,11 @@ void ListScreen::addBars() {
     HScroll->setSingleStep(1);
     HScroll->setPageStep(3);
     HScroll->Change = [this] { HScroll_Change(); };
-    LabZoom =
-        dress(add<Label>(u"LabZoom"_s, {5985, 6750, 420, 330}), Role::Value, u"1"_s, type::M, false, Qt::AlignCenter);
+    LabZoom = addLabel(u"LabZoom"_s, Role::Value, u"1"_s, {5985, 6750, 420, 330}, type::M, false, Qt::AlignCenter);
     LabZoom->setToolTipText(u"Zoom No."_s);
-    BtnAImagen = add<Button>(u"BtnAImagen"_s, {3960, 7230, 1080, 450});
-    BtnAImagen->setText(u"Zoom 5"_s);
-    BtnAImagen->setToolTipText(u"Zoom 5"_s);
-    BtnAImagen->Click = [this] { HScroll->setValue(5); };
-    dress(add<Label>({}, {5190, 7200, 1215, 195}), Role::Heading, u"Process"_s, type::XS, true, ToLeft);
+    BtnAImagen =
+        addButton(u"BtnAImagen"_s, u"Zoom 5"_s, u"Zoom 5"_s, {3960, 7230, 1080, 450}, [this] { HScroll->setValue(5); });
+    addLabel({}, Role::Heading, u"Process"_s, {5190, 7200, 1215, 195}, type::XS, true, ToLeft);
     Progress = add<ProgressBar>(u"ProgressBar"_s, {5190, 7410, 1215, 270});
 }
 
@@ -98,7 +88,7 @@ void ListScreen::addCounters() {
     auto* frame = add<Frame>({}, {6555, 6555, 3600, 1125});
     const auto label = [&](const QString& name, Role role, const QString& text, TwipsRect rect, int height, bool bold,
                            Qt::Alignment align) {
-        return dress(add<Label>(name, rect, frame), role, text, height, bold, align);
+        return addLabel(name, role, text, rect, height, bold, align, frame);
     };
     const auto value = [&](const QString& name, const QString& tip, TwipsRect rect) {
         Label* made = label(name, Role::Value, u"0"_s, rect, type::M, false, ToRight);

@@ -35,31 +35,31 @@ qint32 times(qint32 a, qint32 b) { return toLong(double(a) * double(b)); }
 
 FormInforme::FormInforme(shell::Context& context, QWidget* parent, const QString& name)
     : Screen(context, parent, name) {
-    dress(add<Label>({}, {Table.Left, 165, Table.Width, 480}), Role::Heading, u"General Report of Records"_s, type::XL,
-          true, Qt::AlignCenter);
+    addLabel({}, Role::Heading, u"General Report of Records"_s, {Table.Left, 165, Table.Width, 480}, type::XL, true,
+             Qt::AlignCenter);
     addHeadings();
     for (int row = 0; row <= ReportRowCount; ++row) addRow(row);
     addProducts();
     addLegend();
-    dress(add<Label>({}, Signature), Role::Heading, u"- Zarvelia -"_s, type::S, true, Qt::AlignCenter);
+    addLabel({}, Role::Heading, u"- Zarvelia -"_s, Signature, type::S, true, Qt::AlignCenter);
 }
 
 void FormInforme::addHeadings() {
     for (const ReportGroup& group : ReportGroups)
-        dress(add<Label>({}, {group.left() - HeadingGap, 765, group.width() + 2 * HeadingGap, 285}), Role::Heading,
-              group.heading.toString(), type::G, true, Qt::AlignCenter)
+        addLabel({}, Role::Heading, group.heading.toString(),
+                 {group.left() - HeadingGap, 765, group.width() + 2 * HeadingGap, 285}, type::G, true, Qt::AlignCenter)
             ->setBackColor(colour::GridHead);
     for (const ReportColumn& column : ReportColumns) {
-        auto* heading = dress(add<Label>({}, {column.left, 1050, column.width - FigureEnd, 270}), Role::Unit,
-                              column.heading.toString(), type::S, true, ToRight);
+        auto* heading = addLabel({}, Role::Unit, column.heading.toString(),
+                                 {column.left, 1050, column.width - FigureEnd, 270}, type::S, true, ToRight);
         heading->setBackColor(colour::GridHead);
     }
 }
 
 Label* FormInforme::addFigure(const QString& name, const ReportColumn& column, const TwipsRect& row,
                               const QColor& ground, bool bold) {
-    auto* figure = dress(add<Label>(name, {column.left, row.Top, column.width - FigureEnd, row.Height}), Role::None,
-                         u"0"_s, type::M, bold, ToRight);
+    auto* figure = addLabel(name, Role::None, u"0"_s, {column.left, row.Top, column.width - FigureEnd, row.Height},
+                            type::M, bold, ToRight);
     figure->setForeColor(column.content == Content::Fields ? colour::Soft : colour::Ink);
     figure->setBackColor(ground);
     figure->setToolTipText(column.tip.toString());
@@ -71,8 +71,7 @@ void FormInforme::addRow(int row) {
     const TwipsRect rect = rowRect(row);
     const QString prefix = (sums ? SumPrefix : ReportRows[row].prefix).toString();
     const QString caption = sums ? u"Sum"_s : store::info(ReportRows[row].kind).title.toString();
-    dress(add<Label>({}, {CaptionLeft, rect.Top, CaptionWidth, rect.Height}), Role::Caption, caption, type::G, true,
-          ToLeft)
+    addLabel({}, Role::Caption, caption, {CaptionLeft, rect.Top, CaptionWidth, rect.Height}, type::G, true, ToLeft)
         ->setBackColor(rowGround(row));
     int fields = 0;
     for (const store::KindInfo& kind : store::kinds())
@@ -89,15 +88,14 @@ void FormInforme::addRow(int row) {
 
 void FormInforme::addProducts() {
     const QString caption = u"Sum of (R x F)"_s;
-    dress(add<Label>({}, {CaptionLeft, ProductTop, CaptionWidth, RowPitch}), Role::Caption, caption, type::G, true,
-          ToLeft)
+    addLabel({}, Role::Caption, caption, {CaptionLeft, ProductTop, CaptionWidth, RowPitch}, type::G, true, ToLeft)
         ->setBackColor(colour::ZebraLight);
     for (std::size_t i = 0; i < ProductCount; ++i) {
         const ReportProduct& product = ReportProducts[i];
         const ReportGroup& group = ReportGroups[product.group];
         const QString name = (ProductPrefix.toString() + ReportColumns[product.records].suffix.toString());
-        products_[i] = dress(add<Label>(name, {group.left(), ProductTop + 15, group.width(), RowPitch - 30}),
-                             Role::Value, u"0"_s, type::M, true, ToRight);
+        products_[i] = addLabel(name, Role::Value, u"0"_s,
+                                {group.left(), ProductTop + 15, group.width(), RowPitch - 30}, type::M, true, ToRight);
         products_[i]->setForeColor(colour::Accent);
         products_[i]->setToolTipText(caption + u": "_s + group.heading.toString());
     }
@@ -109,9 +107,8 @@ void FormInforme::addLegend() {
         {u"R", u"Records"}, {u"F", u"Fields"}, {u"Fl", u"Filters"}};
     int left = Left;
     for (const auto& [letter, word] : Units) {
-        dress(add<Label>({}, {left, Top, Word, 285}), Role::Heading, letter.toString(), type::G, true, ToLeft);
-        dress(add<Label>({}, {left + Word, Top, Pitch - Word, 285}), Role::None, word.toString(), type::G, false,
-              ToLeft);
+        addLabel({}, Role::Heading, letter.toString(), {left, Top, Word, 285}, type::G, true, ToLeft);
+        addLabel({}, Role::None, word.toString(), {left + Word, Top, Pitch - Word, 285}, type::G, false, ToLeft);
         left += Pitch;
     }
 }

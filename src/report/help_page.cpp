@@ -19,7 +19,7 @@ HelpScreen::HelpScreen(shell::Context& context, QWidget* parent, const QString& 
     }
     add<HelpText>(page.textControl.toString(), {4740, 240, 5130, 6810})->read(page.words);
     if (!page.caption.isEmpty())
-        dress(add<Label>({}, {4740, 7275, 1500, 270}), Role::Heading, page.caption.toString(), type::S, true, ToLeft)
+        addLabel({}, Role::Heading, page.caption.toString(), {4740, 7275, 1500, 270}, type::S, true, ToLeft)
             ->setToolTipText(u"Página"_s);
     addTurn(u"BtnAnterior"_s, u"Previous"_s, 7380, page.previous);
     addTurn(u"BtnSiguiente"_s, u"Next"_s, 8700, page.next);
@@ -27,9 +27,7 @@ HelpScreen::HelpScreen(shell::Context& context, QWidget* parent, const QString& 
 
 void HelpScreen::addTurn(const QString& name, const QString& caption, int left, int number) {
     if (!number) return;
-    auto* button = add<Button>(name, {left, 7200, 1170, 420});
-    button->setText(caption);
-    button->Click = [this, number] { turnTo(number); };
+    addButton(name, caption, {}, {left, 7200, 1170, 420}, [this, number] { turnTo(number); });
 }
 
 void HelpScreen::Form_Load() {

@@ -12,20 +12,12 @@ SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QStri
     : Screen(context, parent, name), kind_(kind) {
     auto* emblem = add<Picture>({}, {240, 240, 3000, 3000});
     emblem->setPicture({{}, kind.drawing.toString(), {3000, 3000}});
-    LabBaseDatos = dress(add<Label>(u"LabBaseDatos"_s, {240, 3360, 3000, 420}), Role::Heading, kind.title.toString(),
-                         type::Database, true, Qt::AlignCenter);
+    LabBaseDatos = addLabel(u"LabBaseDatos"_s, Role::Heading, kind.title.toString(), {240, 3360, 3000, 420},
+                            type::Database, true, Qt::AlignCenter);
     addCounters();
-    const auto button = [this](const QString& name_, const QString& caption, const QString& tip, TwipsRect rect,
-                               void (SelectScreen::*click)()) {
-        auto* made = add<Button>(name_, rect);
-        made->setText(caption);
-        made->setToolTipText(tip);
-        made->Click = [this, click] { (this->*click)(); };
-        return made;
-    };
     BtnNueva =
-        button(u"BtnNueva"_s, u"New"_s, u"New Selection"_s, {3555, 240, 1170, 420}, &SelectScreen::BtnNueva_Click);
-    BtnTodo = button(u"BtnTodo"_s, u"All"_s, u"All Records"_s, {4875, 240, 1170, 420}, &SelectScreen::BtnTodo_Click);
+        addButton(u"BtnNueva"_s, u"New"_s, u"New Selection"_s, {3555, 240, 1170, 420}, [this] { BtnNueva_Click(); });
+    BtnTodo = addButton(u"BtnTodo"_s, u"All"_s, u"All Records"_s, {4875, 240, 1170, 420}, [this] { BtnTodo_Click(); });
     addFilterFrame();
     ListFiltros = add<ListBox>(u"ListFiltros"_s, {3555, 2580, 6315, 2355});
     ListFiltros->setType(type::G, false);
@@ -37,18 +29,17 @@ SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QStri
     setOpenLook(LabOpcionSQL);
     LabOpcionSQL->setToolTipText(u"Filters"_s);
     addOrderFrame();
-    BtnAceptar = button(u"BtnAceptar"_s, u"Accept"_s, u"Accept Selection"_s, {8700, 7200, 1170, 420},
-                        &SelectScreen::BtnAceptar_Click);
+    BtnAceptar = addButton(u"BtnAceptar"_s, u"Accept"_s, u"Accept Selection"_s, {8700, 7200, 1170, 420},
+                           [this] { BtnAceptar_Click(); });
 }
 
 void SelectScreen::addCounters() {
     auto* frame = add<Frame>({}, {240, 5310, 3000, 2310});
     const auto label = [&](Role role, const QString& text, TwipsRect rect, int height, bool bold, Qt::Alignment align) {
-        return dress(add<Label>({}, rect, frame), role, text, height, bold, align);
+        return addLabel({}, role, text, rect, height, bold, align, frame);
     };
     const auto value = [&](const QString& name, const QString& tip, int top) {
-        auto* made =
-            dress(add<Label>(name, {1140, top, 1140, 315}, frame), Role::Value, u"0"_s, type::M, false, ToRight);
+        auto* made = addLabel(name, Role::Value, u"0"_s, {1140, top, 1140, 315}, type::M, false, ToRight, frame);
         made->setToolTipText(tip);
         return made;
     };
@@ -80,27 +71,21 @@ void SelectScreen::addFilterFrame() {
     TxtValFiltro->Change = [this] { TxtValFiltro_Change(); };
     if (kind_.hashKeptOut) TxtValFiltro->KeyPress = [](QChar key) { return key != u'#'; };
     TxtValFiltro->GotFocus = [this] { TxtValFiltro_GotFocus(); };
-    const auto button = [&](const QString& name, const QString& caption, const QString& tip, TwipsRect rect) {
-        auto* made = add<Button>(name, rect, frame);
-        made->setText(caption);
-        made->setToolTipText(tip);
-        return made;
-    };
-    BtnAnadir = button(u"BtnAnadir"_s, u"Add..."_s, u"Add Filter"_s, {4995, 600, 1170, 405});
-    BtnY = button(u"BtnY"_s, u"AND"_s, u"Intersection"_s, {150, 1065, 1170, 405});
-    BtnO = button(u"BtnO"_s, u"OR"_s, u"Union"_s, {1470, 1065, 1170, 405});
-    BtnAnadir->Click = [this] { BtnAnadir_Click(); };
-    BtnY->Click = [this] { join(u" AND "_s, *BtnY); };
-    BtnO->Click = [this] { join(u" OR "_s, *BtnO); };
-    LabNumFiltros = dress(add<Label>(u"LabNumFiltros"_s, {4995, 1110, 810, 315}, frame), Role::Value, u"0"_s, type::M,
-                          false, ToRight);
+    BtnAnadir = addButton(
+        u"BtnAnadir"_s, u"Add..."_s, u"Add Filter"_s, {4995, 600, 1170, 405}, [this] { BtnAnadir_Click(); }, frame);
+    BtnY = addButton(
+        u"BtnY"_s, u"AND"_s, u"Intersection"_s, {150, 1065, 1170, 405}, [this] { join(u" AND "_s, *BtnY); }, frame);
+    BtnO = addButton(
+        u"BtnO"_s, u"OR"_s, u"Union"_s, {1470, 1065, 1170, 405}, [this] { join(u" OR "_s, *BtnO); }, frame);
+    LabNumFiltros =
+        addLabel(u"LabNumFiltros"_s, Role::Value, u"0"_s, {4995, 1110, 810, 315}, type::M, false, ToRight, frame);
     LabNumFiltros->setToolTipText(u"No. of Selected Filters"_s);
-    dress(add<Label>({}, {5850, 1110, 300, 315}, frame), Role::Unit, u"Fl"_s, type::S, false, ToLeft);
+    addLabel({}, Role::Unit, u"Fl"_s, {5850, 1110, 300, 315}, type::S, false, ToLeft, frame);
 }
 
 void SelectScreen::addOrderFrame() {
     auto* frame = add<Frame>({}, {3555, 6315, 6315, 735});
-    dress(add<Label>({}, {150, 195, 735, 345}, frame), Role::Caption, u"Order"_s, type::G, true, ToLeft);
+    addLabel({}, Role::Caption, u"Order"_s, {150, 195, 735, 345}, type::G, true, ToLeft, frame);
     ComboCampoOrden = add<Combo>(u"ComboCampoOrden"_s, {990, 195, 2505, 345}, frame);
     ComboCampoOrden->setToolTipText(u"Choose Field"_s);
     ComboCampoOrden->Click = [this] { ComboCampoOrden_Click(); };

@@ -70,7 +70,7 @@ store::FixedTable& GroupShowEdit::activeTable() {
 QString GroupShowEdit::rowText() const {
     const QString text = headingText();
     if (group_.suffixColumn.isEmpty()) return text;
-    return text + u", "_s + box(kind().indexOf(group_.suffixColumn)).Text();
+    return text + u", "_s + boxText(group_.suffixColumn);
 }
 
 bool GroupShowEdit::contains(double key) const {
@@ -80,7 +80,7 @@ bool GroupShowEdit::contains(double key) const {
 }
 
 void GroupShowEdit::BtnAnadirGrupo_Click() {
-    if (memory().Cont == 0 || !hasRows()) return;
+    if (memory().Cont == 0 || !walk_.hasRows()) return;
     const QString key = store().bound(kind().kind, 0);
     if (contains(Val(key))) return;
     const int row = MSFlexGrid1->Rows();

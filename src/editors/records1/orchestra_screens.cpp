@@ -115,10 +115,7 @@ void FormReg1MosOrquesta::nameChanged(int i) {
 }
 
 void FormReg1MosOrquesta::nameGotFocus(int i) {
-    if (Navegable) {
-        BtnRegresar->setFocus(Qt::OtherFocusReason);
-        return;
-    }
+    if (walk_.handFocusOn()) return;
     if (!names_.yieldToOther(i)) names_.box(i).selectWhole();
 }
 

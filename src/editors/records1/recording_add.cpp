@@ -13,10 +13,10 @@ FormReg1AnaGrabacion::FormReg1AnaGrabacion(shell::Context& context, QWidget* par
     addNotes(240, 3345);
     TxtNotas->Change = [this] { store().memory.Grabacion.AnaNotas = TxtNotas->Text(); };
     addCounters();
-    BtnGuardar = addButton(u"BtnGuardar"_s, u"Save"_s, u"Save the Record"_s, {5490, 7200, 1110, 420});
-    BtnDeshacer = addButton(u"BtnDeshacer"_s, u"Undo"_s, u"Remove the Last Record"_s, {6750, 7200, 1110, 420});
-    BtnGuardar->Click = [this] { BtnGuardar_Click(); };
-    BtnDeshacer->Click = [this] { BtnDeshacer_Click(); };
+    BtnGuardar = addButton(u"BtnGuardar"_s, u"Save"_s, u"Save the Record"_s, {5490, 7200, 1110, 420},
+                           [this] { BtnGuardar_Click(); });
+    BtnDeshacer = addButton(u"BtnDeshacer"_s, u"Undo"_s, u"Remove the Last Record"_s, {6750, 7200, 1110, 420},
+                            [this] { BtnDeshacer_Click(); });
     BtnDeshacer->setEnabled(false);
 }
 

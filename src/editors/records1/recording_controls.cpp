@@ -68,19 +68,6 @@ void RecordingScreen::addGrid(int part) {
     Flex[std::size_t(part)] = grid;
 }
 
-Label* RecordingScreen::addLabel(const QString& name, Role role, const QString& text, const TwipsRect& rect, int height,
-                                 bool bold, Qt::Alignment alignment, QWidget* inside) {
-    return dress(add<Label>(name, rect, inside), role, text, height, bold, alignment);
-}
-
-Button* RecordingScreen::addButton(const QString& name, const QString& caption, const QString& tip,
-                                   const TwipsRect& rect) {
-    auto* button = add<Button>(name, rect);
-    button->setText(caption);
-    button->setToolTipText(tip);
-    return button;
-}
-
 void RecordingScreen::addNotes(int left, int width) {
     addLabel({}, Role::Heading, u"Notes"_s, {left, 3330, width, 240}, type::S, true, ToLeft);
     TxtNotas = add<Memo>(u"TxtNotas"_s, {left, 3600, width, 1935});

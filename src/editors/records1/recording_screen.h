@@ -69,10 +69,6 @@ class RecordingScreen : public shell::Screen {
     virtual void Imagen_DblClick(int part) = 0;
     virtual void BtnEliIma_Click(int part) = 0;
 
-    forms::Label* addLabel(const QString& name, forms::Role role, const QString& text, const forms::TwipsRect& rect,
-                           int type, bool bold, Qt::Alignment alignment, QWidget* inside = nullptr);
-    forms::Button* addButton(const QString& name, const QString& caption, const QString& tip,
-                             const forms::TwipsRect& rect);
     void addNotes(int left, int width);
     void paintBehind(QPainter& painter) override;
 

@@ -19,49 +19,97 @@ QStringView keyColumn(int part) {
     return part == ComposerPart ? u"IdCompositor" : part == WorkPart ? u"IdObra" : u"IdSoporte";
 }
 
+const WalkLayout Layout{
+    .frame = {240, 3750, 1845, 3870},
+    .heading = {105, 120, 885, 270},
+    .reduce = {1005, 105, 735, 300},
+    .show = {105, 570, 900, 300},
+    .order = {105, 900, 585, 330},
+    .orderNumber = {720, 900, 1020, 330},
+    .bar = {105, 1350, 1635, 330},
+    .directions = {105, 1725, 1635, 270},
+    .selection = {105, 2355, 1635, 240},
+    .selected = {105, 2595, 690, 300},
+    .selectedUnit = {825, 2595, 120, 300},
+    .selectedFields = {990, 2595, 420, 300},
+    .selectedFieldsUnit = {1440, 2595, 120, 300},
+    .filters = {105, 2925, 690, 300},
+    .filtersUnit = {825, 2925, 240, 300},
+    .removal = {105, 3270, 1635, 240},
+    .removed = {105, 3510, 690, 300},
+    .removedUnit = {825, 3510, 120, 300},
+    .removedFields = {990, 3510, 420, 300},
+    .removedFieldsUnit = {1440, 3510, 120, 300},
+    .rules = {480, 2280},
+    .orderAlignment = forms::ToLeft,
+    .directionsType = forms::type::XS,
+    .valueType = forms::type::G,
+    .back = {4800, 7230, 525, 360},
+    .modify = {2970, 7200, 1110, 420},
+    .remove = {4230, 7200, 1110, 420},
+    .accept = {5490, 7200, 1110, 420},
+    .undo = {6750, 7200, 1110, 420},
+    .backType = forms::type::S,
+};
+
 } // namespace
 
+FormReg1MosGrabacion::FormReg1MosGrabacion(shell::Context& context, QWidget* parent, const QString& name)
+    : RecordingScreen(context, parent, name), walk_(*this, store(), store::info(Kind::Grabacion), Layout) {
+    tipsShown = true;
+    addNotes(2235, 1350);
+    TxtNotas->setLocked(true);
+    TxtNotas->Change = [this] {
+        if (!TxtNotas->Locked()) store().memory.Grabacion.MosNotas = TxtNotas->Text();
+    };
+    TxtNotas->GotFocus = [this] { walk_.handFocusOn(); };
+    // "Back" only takes the focus that the locked notes hand on.
+    walk_.BtnRegresar->setToolTipText({});
+    walk_.BtnModificar->Click = [this] { BtnModificar_Click(); };
+    walk_.BtnEliminar->Click = [this] { BtnEliminar_Click(); };
+    walk_.BtnGuardar->Click = [this] { BtnGuardar_Click(); };
+    walk_.BtnDeshacer->Click = [this] { BtnDeshacer_Click(); };
+    for (forms::Picture* picture : Imagen) picture->setEnabled(false);
+}
+
 void FormReg1MosGrabacion::Form_Load() {
-    if (memory().RedAmp) BtnReducirAmpliar_Click();
-    LabNumRegEliminados->setCaption(QString::number(memory().ContEli));
-    LabNumRegSeleccion->setCaption(QString::number(memory().ContSel));
-    LabNumFiltros->setCaption(QString::number(memory().ContFil));
+    walk_.load();
     RecordingScreen::Form_Load();
 }
 
 void FormReg1MosGrabacion::Carga() {
-    Navegable = true;
+    walk_.Navegable = true;
     if (!selectionsClosed()) return;
     emptyScreen();
-    if (!hasRows()) {
-        TxtOrden->setText({});
+    if (!walk_.hasRows()) {
+        walk_.TxtOrden->setText({});
         TxtNotas->setText({});
-        ValoresInicio();
+        walk_.ValoresInicio();
         return;
     }
-    Navegable = false;
+    walk_.Navegable = false;
     const bool trip = module1().RegresoMosGrabacion;
     trip ? loadWorkingCopy() : loadRecording();
     showPerformerCount();
-    TxtOrden->setText(QString::number(memory().Posicion));
+    walk_.TxtOrden->setText(QString::number(memory().Posicion));
     if (trip) return;
-    Navegable = true;
-    ValoresInicio();
+    walk_.Navegable = true;
+    walk_.ValoresInicio();
 }
 
 void FormReg1MosGrabacion::emptyScreen() {
-    const bool walking = Navegable;
-    Navegable = false;
+    const bool walking = walk_.Navegable;
+    walk_.Navegable = false;
     for (int part = 0; part < PartCount; ++part) clearPart(part);
     DialogoImagen.FileName.clear();
-    Navegable = walking;
+    walk_.Navegable = walking;
 }
 
 // Back from a trip: the working copy is shown, and the screen goes on being modified.
 void FormReg1MosGrabacion::loadWorkingCopy() {
     BtnModificar_Click();
-    HScroll->setMax(Data().Recordset().RecordCount());
-    HScroll->setValue(std::clamp<int>(memory().Posicion, HScroll->Min(), HScroll->Max()));
+    walk_.HScroll->setMax(Data().Recordset().RecordCount());
+    walk_.HScroll->setValue(std::clamp<int>(memory().Posicion, walk_.HScroll->Min(), walk_.HScroll->Max()));
     if (chosen(ComposerPart) >= 1) Lab_Click(ComposerPart);
     for (const int part : {ConductorPart, OrchestraPart, PerformerPart})
         if (hasGroup(group(part))) Lab_Click(part);
@@ -78,11 +126,7 @@ void FormReg1MosGrabacion::loadRecording() {
     for (const int part : {ConductorPart, OrchestraPart, PerformerPart})
         for (int row = 0; row <= 10; ++row) group(part).at(row, 1) = NotReadRow;
     for (const int part : {ComposerPart, WorkPart, FormatPart}) chosen(part) = NotRead;
-    jet::Recordset& rows = Data().Recordset();
-    rows.MoveLast();
-    HScroll->setMax(rows.RecordCount());
-    HScroll->setValue(std::min<qint32>(HScroll->Max(), memory().Posicion));
-    rows.setAbsolutePosition(HScroll->Value() - 1);
+    walk_.standOnRemembered();
     importSingle(ComposerPart);
     for (const int part : {ConductorPart, OrchestraPart, PerformerPart}) {
         links(part).RecordSource =
@@ -113,7 +157,7 @@ void FormReg1MosGrabacion::importSingle(int part) {
 }
 
 void FormReg1MosGrabacion::Lab_Click(int part) {
-    if (Navegable) return;
+    if (walk_.Navegable) return;
     if (partInfo(part).isGroup()) {
         importGroup(part);
         return;
@@ -124,7 +168,7 @@ void FormReg1MosGrabacion::Lab_Click(int part) {
         showSingle(part);
         chosenKey = toLong(Val(Data(part).boundText(u"Id"_s)));
     }
-    if (BtnGuardar->isEnabled() && chosenKey > 0) showRemoveButton(part, true);
+    if (walk_.BtnGuardar->isEnabled() && chosenKey > 0) showRemoveButton(part, true);
     widen(part);
     if (part == FormatPart) markFormat(chosenKey >= 1);
 }
@@ -151,11 +195,11 @@ void FormReg1MosGrabacion::importGroup(int part) {
     if (read && condition.count(u'=') > partInfo(part).group->limit) return;
     if (condition.isEmpty()) return;
     showGroup(part, condition, &table);
-    if (BtnGuardar->isEnabled() && hasGroup(table)) showRemoveButton(part, true);
+    if (walk_.BtnGuardar->isEnabled() && hasGroup(table)) showRemoveButton(part, true);
 }
 
 void FormReg1MosGrabacion::Imagen_DblClick(int part) {
-    if (!BtnGuardar->isEnabled()) return;
+    if (!walk_.BtnGuardar->isEnabled()) return;
     if (!partInfo(part).isGroup() && chosen(part) == NotRead) chosen(part) = None;
     store::Module1& state = module1();
     shell::Navigator& navigator = *context().navigator;
@@ -170,7 +214,7 @@ void FormReg1MosGrabacion::Imagen_DblClick(int part) {
 }
 
 void FormReg1MosGrabacion::BtnEliIma_Click(int part) {
-    if (Navegable) return;
+    if (walk_.Navegable) return;
     clearPart(part);
     if (partInfo(part).isGroup()) {
         group(part).fillColumn(0, {});
@@ -181,50 +225,27 @@ void FormReg1MosGrabacion::BtnEliIma_Click(int part) {
     if (part == FormatPart) markFormat(false);
 }
 
-void FormReg1MosGrabacion::HScroll_Change() {
-    if (!Navegable || !hasRows()) return;
-    TxtOrden->setText(QString::number(HScroll->Value()));
-    Data().Recordset().setAbsolutePosition(HScroll->Value() - 1);
-    memory().Posicion = HScroll->Value();
-    Carga();
-}
-
-void FormReg1MosGrabacion::TxtOrden_Change() {
-    if (!Navegable) return;
-    const QString text = TxtOrden->Text();
-    const double v = numberOf(text).value_or(0);
-    if (v >= 1 && v <= Data().Recordset().RecordCount())
-        HScroll->setValue(toInteger(v));
-    else
-        TxtOrden->setText({});
-}
-
 void FormReg1MosGrabacion::BtnModificar_Click() {
-    if (!BtnEliminar->isEnabled() || !hasRows()) return;
-    Navegable = false;
+    if (!walk_.mayModify()) return;
+    walk_.Navegable = false;
     context().navigator->BloquearSolapas(true);
-    BtnEliminar->setEnabled(false);
+    walk_.BtnEliminar->setEnabled(false);
     Bloquear(false);
     for (int part = 0; part < PartCount; ++part)
         showRemoveButton(part, partInfo(part).isGroup() ? hasGroup(group(part)) : chosen(part) > 0);
 }
 
 void FormReg1MosGrabacion::BtnEliminar_Click() {
-    if (!BtnModificar->isEnabled() || !hasRows()) return;
+    if (!walk_.mayRemove()) return;
     context().navigator->BloquearSolapas(true);
-    BtnModificar->setEnabled(false);
-    BtnGuardar->setEnabled(true);
-    BtnDeshacer->setEnabled(true);
-    HScroll->setEnabled(false);
-    TxtOrden->setEnabled(false);
-    markState();
+    walk_.startRemoval();
 }
 
 void FormReg1MosGrabacion::BtnGuardar_Click() {
     // The state that was entered: the button that led into it is the one of the two that is still enabled.
-    if (BtnModificar->isEnabled())
+    if (walk_.BtnModificar->isEnabled())
         modify();
-    else if (BtnEliminar->isEnabled())
+    else if (walk_.BtnEliminar->isEnabled())
         removeRow();
 }
 
@@ -258,7 +279,7 @@ void FormReg1MosGrabacion::standOnRecording() {
     jet::Recordset& rows = Data().Recordset();
     if (rows.RecordCount() == 0) return;
     rows.MoveLast();
-    rows.setAbsolutePosition(std::min(HScroll->Value(), rows.RecordCount()) - 1);
+    rows.setAbsolutePosition(std::min(walk_.HScroll->Value(), rows.RecordCount()) - 1);
 }
 
 void FormReg1MosGrabacion::removeRow() {
@@ -271,24 +292,11 @@ void FormReg1MosGrabacion::removeRow() {
         module1().ErrorBaseDatos = false;
         return;
     }
-    store::KindMemory& of = memory();
-    jet::Recordset& rows = Data().Recordset();
-    if (rows.RecordCount() == 0) {
-        of.Posicion = 1;
-        of.Cont = 0;
-        of.ContSel = 0;
-    } else {
-        if (of.Posicion != 1) --of.Posicion;
-        --of.Cont;
-        of.ContSel = rows.RecordCount();
-        rows.setAbsolutePosition(std::min<qint32>(of.Posicion, of.ContSel) - 1);
-    }
+    walk_.stepAfterRemoval();
     resetGroups(u" -1"_s);
     module1().RegresoMosGrabacion = false;
     Carga();
-    LabNumRegEliminados->setCaption(CStr(Val(LabNumRegEliminados->Caption()) + 1));
-    of.ContEli = toLong(Val(LabNumRegEliminados->Caption()));
-    LabNumRegSeleccion->setCaption(QString::number(of.ContSel));
+    walk_.showRemoval();
     unlockTabs();
 }
 
@@ -302,7 +310,7 @@ void FormReg1MosGrabacion::BtnDeshacer_Click() {
 void FormReg1MosGrabacion::unlockTabs() {
     for (int part = 0; part < PartCount; ++part) showRemoveButton(part, false);
     module1().SolapasFijas = false;
-    Navegable = true;
+    walk_.Navegable = true;
     context().navigator->BloquearSolapas(false);
     Bloquear(true);
 }
@@ -314,27 +322,9 @@ void FormReg1MosGrabacion::resetGroups(const QString& orchestraMark) {
 }
 
 void FormReg1MosGrabacion::Bloquear(bool locked) {
-    Navegable = locked;
+    walk_.lock(locked);
     TxtNotas->setLocked(locked);
     for (forms::Picture* picture : Imagen) picture->setEnabled(!locked);
-    HScroll->setEnabled(locked);
-    TxtOrden->setEnabled(locked);
-    BtnDeshacer->setEnabled(!locked);
-    BtnGuardar->setEnabled(!locked);
-    markState();
-}
-
-void FormReg1MosGrabacion::ValoresInicio() {
-    BtnDeshacer->setEnabled(false);
-    BtnGuardar->setEnabled(false);
-    BtnModificar->setEnabled(true);
-    BtnEliminar->setEnabled(true);
-    markState();
-}
-
-void FormReg1MosGrabacion::markState() {
-    setInForce(BtnModificar, BtnGuardar->isEnabled() && !BtnEliminar->isEnabled());
-    setInForce(BtnEliminar, BtnGuardar->isEnabled() && !BtnModificar->isEnabled());
 }
 
 } // namespace zv::editors

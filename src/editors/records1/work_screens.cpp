@@ -43,8 +43,7 @@ FormReg1AnaObra::FormReg1AnaObra(shell::Context& context, QWidget* parent, const
                          false, true, [] { return true; }, [this] { rememberMovements(); }}) {}
 
 QString FormReg1AnaObra::RistraNombre() const {
-    return heading(box(kind().indexOf(u"Nombre")).Text(), box(kind().indexOf(u"Numero")).Text(),
-                   box(kind().indexOf(u"Tonalidad")).Text());
+    return heading(boxText(u"Nombre"), boxText(u"Numero"), boxText(u"Tonalidad"));
 }
 
 void FormReg1AnaObra::rememberMovements() {
@@ -76,11 +75,9 @@ void FormReg1AnaObra::Limpiar() {
 FormReg1MosObra::FormReg1MosObra(shell::Context& context, QWidget* parent, const QString& name)
     : ShowEditScreen(context, parent, name, work()),
       movements_(*this, {module1().MovimientosMos, store().memory.Obra.MosAmpRed, u"Modificar"_s, u"Añadir"_s, true,
-                         false, [this] { return !Navegable; }, [] {}}) {
+                         false, [this] { return !walk_.Navegable; }, [] {}}) {
     movements_.setLocked(true);
-    movements_.GotFocus = [this] {
-        if (Navegable) BtnRegresar->setFocus(Qt::OtherFocusReason);
-    };
+    movements_.GotFocus = [this] { walk_.handFocusOn(); };
 }
 
 void FormReg1MosObra::Form_Load() {
@@ -89,8 +86,7 @@ void FormReg1MosObra::Form_Load() {
 }
 
 QString FormReg1MosObra::RistraNombre() const {
-    return heading(box(kind().indexOf(u"Nombre")).Text(), box(kind().indexOf(u"Numero")).Text(),
-                   box(kind().indexOf(u"Tonalidad")).Text());
+    return heading(boxText(u"Nombre"), boxText(u"Numero"), boxText(u"Tonalidad"));
 }
 
 void FormReg1MosObra::showRow() {

@@ -1,5 +1,6 @@
 #include "platform/forms/form.h"
 
+#include "platform/forms/controls.h"
 #include "platform/forms/decoration.h"
 
 namespace zv::forms {
@@ -18,6 +19,20 @@ void Form::adopt(Placed* placed, QWidget* widget, const QString& name, const Twi
     placed->place(rect);
     controls_.push_back(placed);
     placed->applyScale(scale_);
+}
+
+Label* Form::addLabel(const QString& name, Role role, const QString& text, const TwipsRect& rect, int type, bool bold,
+                      Qt::Alignment alignment, QWidget* inside) {
+    return dress(add<Label>(name, rect, inside), role, text, type, bold, alignment);
+}
+
+Button* Form::addButton(const QString& name, const QString& caption, const QString& tip, const TwipsRect& rect,
+                        Handler click, QWidget* inside) {
+    auto* button = add<Button>(name, rect, inside);
+    button->setText(caption);
+    button->setToolTipText(tip);
+    button->Click = std::move(click);
+    return button;
 }
 
 void Form::setPosition(int left, int top) {

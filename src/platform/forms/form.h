@@ -7,6 +7,9 @@
 
 namespace zv::forms {
 
+class Button;
+class Label;
+
 class Form : public QWidget {
   public:
     /// width, height: twips.
@@ -39,6 +42,11 @@ class Form : public QWidget {
         adopt(control, control, name, rect);
         return control;
     }
+    /// A caption, heading, unit or value. type: height in twips.
+    Label* addLabel(const QString& name, Role role, const QString& text, const TwipsRect& rect, int type, bool bold,
+                    Qt::Alignment alignment, QWidget* inside = nullptr);
+    Button* addButton(const QString& name, const QString& caption, const QString& tip, const TwipsRect& rect,
+                      Handler click = {}, QWidget* inside = nullptr);
 
   protected:
     virtual void Form_Load() {}
