@@ -274,6 +274,8 @@ void ShowEditScreen::BtnRegresar_Click() {
         navigator.SolapaRegistros1 = 6;
         navigator.setTabRegistros1(2);
         navigator.TabRegistros1_Click();
+        // Sent to another screen for its selection, the user has given the change up: the tabs stay free.
+        if (!state.RegresoMosGrabacion) return;
         navigator.BloquearSolapas(true);
         state.SolapasFijas = true;
     }

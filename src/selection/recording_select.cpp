@@ -143,9 +143,11 @@ QString FormReg1SelGrabacion::keyTerms(jet::DataControl& channel, const QString&
                                        const QString& term) {
     channel.RecordSource = statement;
     channel.Refresh();
-    toInteger(channel.Recordset().RecordCount()); // the rows are counted in 16 bits
+    jet::Recordset& rows = channel.Recordset();
+    if (rows.RecordCount() != 0) rows.MoveLast(); // there it stays if a later table fails
+    toInteger(rows.RecordCount());                // the rows are counted in 16 bits
     QString terms;
-    for (const QString& key : channel.Recordset().columnTexts(column.toString())) {
+    for (const QString& key : rows.columnTexts(column.toString())) {
         if (key.isEmpty()) continue; // a link that names no recording
         if (!terms.isEmpty()) terms += u" OR "_s;
         terms += term;

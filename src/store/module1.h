@@ -38,6 +38,8 @@ struct Module1 {
     int Err = 0;                 ///< number of the last run-time error that a handler caught
     bool SolapasFijas = false;   ///< the tabs stay as they are
     bool RegresoMosGrabacion = false, RegresoAnaGrabacion = false;
+    /// The selection of recordings while one that is being modified stands alone in their channel; else empty.
+    QString SeleccionGrabacion;
 
     // Column 0 the text shown, column 1 the key; a value of 0 or less marks a free row.
     FixedTable ListaOrquestaAna{11, 2}, ListaDirectorAna{11, 2}, ListaInterpreteAna{101, 2};

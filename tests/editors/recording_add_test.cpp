@@ -244,6 +244,31 @@ TEST_F(RecordingAdd, aPartRemovedElsewhereShowsNothingAndKeepsItsKey) {
     EXPECT_EQ(rows(), QStringList(u"1|1|-1|1|"_s));
 }
 
+TEST_F(RecordingAdd, aSaveEndsTheSelectionOfRecordings) {
+    putParts(3, 3);
+    putRecordings({{1, 1, 1, {1}, {}, {}, u"first"_s}, {2, 2, 2}});
+    start();
+    jet::DataControl& channel = program->store.Data(Kind::Grabacion);
+    channel.RecordSource = u"SELECT * FROM Grabacion WHERE IdGrabacion=1"_s;
+    channel.Refresh();
+    recordings().ContSel = recordings().ContFil = 1;
+    recordings().MemoSel.CampoOrden = 4;
+    stand(Conductor, 3);
+    hands->click(u"BtnAñadirGrupo"_s);
+    hands->go(Add);
+    heading(Format);
+    hands->type(u"TxtNotas"_s, u"third"_s);
+    trip(Work);
+    back();
+    EXPECT_EQ(hands->text(u"TxtNotas"_s), u"third"_s);
+    save();
+    EXPECT_EQ(rows().last(), u"3|-1|-1|1|third"_s);
+    EXPECT_EQ(links(), u"1-1 3-3; ; "_s) << "the links go to the new one";
+    EXPECT_EQ(channel.Recordset().RecordCount(), 3);
+    EXPECT_EQ(recordings().ContSel * 10 + recordings().ContFil, 30);
+    EXPECT_EQ(recordings().MemoSel.CampoOrden, 4);
+}
+
 TEST_F(RecordingAdd, picturesStandCentredInTheirTiles) {
     putParts(3, 3);
     const QString wide = picture(u"wide.bmp"_s, {300, 100}), tall = picture(u"tall.bmp"_s, {100, 300});

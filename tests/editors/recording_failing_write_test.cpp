@@ -170,6 +170,31 @@ TEST_F(RecordingFailingWrite, aSecondAcceptCompletesAChange) {
     }
 }
 
+TEST_F(RecordingFailingWrite, aSecondAcceptReachesTheRecordingThatLeftItsSelection) {
+    const QString selection = u"SELECT * FROM Grabacion WHERE IdCompositor>0"_s;
+    const auto channel = [this]() -> jet::DataControl& { return program->store.Data(Kind::Grabacion); };
+    for (const bool accepted : {true, false}) {
+        SCOPED_TRACE(accepted);
+        begin();
+        channel().RecordSource = selection;
+        channel().Refresh();
+        hands->go(ShowEdit);
+        walk(2);
+        hands->click(u"BtnModificar"_s);
+        hands->click(u"BtnEliImaCompositor"_s);
+        clickFailing(u"BtnGuardar"_s, Links * unlinking + changing, false);
+        EXPECT_EQ(shortRows(), (QStringList{firstRow, u"-2|2|2|second"_s}));
+        trip(Performer);
+        back();
+        hands->click(accepted ? u"BtnGuardar"_s : u"BtnDeshacer"_s);
+        EXPECT_TRUE(tabsFree());
+        EXPECT_EQ(shortRows(), (QStringList{firstRow, u"-2|2|2|second"_s}));
+        EXPECT_EQ(links(), accepted ? u"1-3 2-1 2-2; 1-3 2-1; 1-3 2-1 2-2"_s : u"1-3; 1-3; 1-3"_s);
+        EXPECT_EQ(channel().RecordSource, selection);
+        EXPECT_EQ(hands->text(u"TxtNotas"_s), u"first"_s);
+    }
+}
+
 TEST_F(RecordingFailingWrite, aRemovalThatFailsIsTold) {
     for (int step = 0; step <= Links; ++step) {
         SCOPED_TRACE(step);

@@ -314,6 +314,89 @@ TEST_F(RecordingShowEdit, aPartRemovedOnATripLeavesTheComposition) {
     EXPECT_EQ(links(), storedLinks);
 }
 
+TEST_F(RecordingShowEdit, aGroupBeyondItsTableIsToldBeforeAnythingIsRemoved) {
+    putParts(11, 2);
+    putRecordings({{1, 1, 1, {}, {2}, {1, 2}, u"first"_s}});
+    open();
+    hands->click(u"BtnModificar"_s);
+    trip(Conductor);
+    for (int order = 1; order < 10; ++order) gather(order);
+    boxes.expect(u"10 Conductors Maximum."_s, box::Warning);
+    gather(10);
+    // A change of a conductor clears what is on display there, and lets nothing in over the ten.
+    hands->click(u"BtnModificar"_s);
+    hands->click(u"BtnGuardar"_s);
+    EXPECT_EQ(hands->get<forms::FlexGrid>(u"MSFlexGrid1"_s).Rows(), 0);
+    EXPECT_FALSE(hands->isEnabled(u"BtnAñadirGrupo"_s));
+    back();
+    EXPECT_EQ(listed(Conductor).count(u'|'), 9);
+    trip(Conductor);
+    gather(11);
+    back();
+    EXPECT_EQ(listed(Conductor), QString());
+    boxes.expect(u"Has occurred Error: 9"_s, box::Critical);
+    hands->click(u"BtnGuardar"_s);
+    EXPECT_EQ(state(), modifying);
+    EXPECT_EQ(links(), u"; 1-2; 1-1 1-2"_s);
+    hands->click(u"BtnEliImaDirector"_s);
+    hands->click(u"BtnGuardar"_s);
+    EXPECT_EQ(state(), showing);
+    EXPECT_EQ(links(), u"; 1-2; 1-1 1-2"_s);
+}
+
+TEST_F(RecordingShowEdit, leavingForASelectionOnTheWayBackGivesTheChangeUp) {
+    three();
+    open();
+    for (const bool closed : {true, false}) {
+        SCOPED_TRACE(closed);
+        hands->go(ShowEdit);
+        hands->click(u"BtnModificar"_s);
+        hands->type(u"TxtNotas"_s, u"changed"_s);
+        trip(Performer);
+        memory(Kind::Obra).ContSel = 1;
+        boxes.expect(
+            u"\r    The 'Current Selection' of:\r\r    - Work\r\r    DOES NOT SHOW ALL of the Records and should "
+            "be closed to continue.   \r\r"_s,
+            box::OkCancel, closed ? box::Ok : box::Cancel);
+        back();
+        EXPECT_EQ(tabsFree(), !closed);
+        EXPECT_EQ(module1().RegresoMosGrabacion, closed);
+        hands->screen(closed ? u"FormReg1MosGrabacion"_s : u"FormReg1SelObra"_s);
+        if (!closed) continue;
+        EXPECT_EQ(state(), modifying);
+        EXPECT_EQ(hands->text(u"TxtNotas"_s), u"changed"_s);
+        hands->click(u"BtnDeshacer"_s);
+    }
+    memory(Kind::Obra).ContSel = memory(Kind::Obra).Cont;
+    hands->go(ShowEdit);
+    EXPECT_EQ(state(), showing);
+    EXPECT_EQ(hands->text(u"TxtNotas"_s), u"first"_s);
+    EXPECT_EQ(rows(), storedRows);
+}
+
+TEST_F(RecordingShowEdit, theSelectionOfRecordingsIsWalkedAndShrinks) {
+    three();
+    start();
+    jet::DataControl& channel = program->store.Data(Kind::Grabacion);
+    channel.RecordSource = u"SELECT * FROM Grabacion WHERE IdGrabacion>1"_s;
+    channel.Refresh();
+    recordings().ContSel = 2;
+    recordings().Posicion = 3;
+    hands->go(ShowEdit);
+    EXPECT_EQ(hands->text(u"TxtOrden"_s), u"3"_s) << "the position of a longer selection";
+    EXPECT_EQ(hands->get<forms::ScrollBar>(u"HScroll"_s).Value(), 2);
+    walk(1);
+    EXPECT_EQ(hands->text(u"TxtNotas"_s), u"second"_s);
+    hands->click(u"BtnEliminar"_s);
+    hands->click(u"BtnGuardar"_s);
+    EXPECT_EQ(counters(), u"1 1; 2 1 1 1"_s);
+    EXPECT_EQ(links(), u"1-1 1-2; 1-1; 1-1 1-2 1-3"_s);
+    hands->click(u"BtnEliminar"_s);
+    hands->click(u"BtnGuardar"_s);
+    EXPECT_EQ(counters(), u"0 2; 0 0 2 1"_s) << "the last row of a filter counts as that of the table";
+    EXPECT_EQ(rows(), QStringList(storedRows[0]));
+}
+
 TEST_F(RecordingShowEdit, keysOfALongerGroupBeforeAreSavedWithAShorterOne) {
     const auto first = [](int count) {
         QList<int> keys;

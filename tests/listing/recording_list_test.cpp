@@ -1,6 +1,7 @@
 // The list of recordings on screen and on paper: rows put together from other tables, groups of several, parts whose
 // rows are gone, and the channels when the screen is left.
 #include "support/desk.h"
+#include "support/kind_words.h"
 
 using namespace zv;
 using namespace Qt::StringLiterals;
@@ -92,6 +93,37 @@ TEST_F(RecordingList, PutsRowsTogetherFromOtherTables) {
     const auto shown = [this](int i) { return hands->get<forms::Picture>(u"Imagen%1"_s.arg(i)).isVisible(); };
     EXPECT_TRUE(shown(0) && shown(1));
     EXPECT_FALSE(shown(2)) << "the picture of the recording before";
+}
+
+TEST_F(RecordingList, ListsTheFieldsOfSevenTablesInOrder) {
+    QStringList captions{u"No."_s}, cells{u"1"_s};
+    std::map<QString, test::Rows> tables;
+    for (const test::RecordingField& field : test::recordingFields()) {
+        captions += field.listed;
+        if (field.column.contains(u"Movimientos"_s) || field.column == u"TiempoTotal"_s) {
+            cells += field.column == u"TiempoTotal"_s ? u"00:00:00"_s : QString();
+            continue;
+        }
+        cells += QString::number(10 + captions.size());
+        auto [table, isNew] = tables.try_emplace(field.table, test::Rows{field.table, {}, {{}}});
+        table->second.columns += (isNew ? u""_s : u", "_s) + field.column;
+        table->second.values[0] += (isNew ? u"'"_s : u", '"_s) + cells.last() + u'\'';
+    }
+    tables.at(u"Grabacion"_s).columns += u", IdCompositor, IdObra, IdSoporte"_s;
+    tables.at(u"Grabacion"_s).values[0] += u", 1, 1, 1"_s;
+    for (const auto& [name, rows] : tables) put(rows);
+    for (const QString& person : {u"Orquesta"_s, u"Director"_s, u"Interprete"_s})
+        put({u"Relacion"_s + person, u"IdGrabacion, Id"_s + person, {u"1, 1"_s}});
+    start();
+    hands->go(ListNumber);
+    hands->tickAll();
+    hands->click(u"BtnListar"_s);
+    EXPECT_EQ(page().value(0), captions.join(u'|'));
+    EXPECT_EQ(page().value(1), cells.join(u'|'));
+    EXPECT_EQ(hands->text(u"LabNumCampos"_s), u"34"_s) << "with the picture";
+    printed();
+    const QString paper = printers.printer.operations().join(u'\n');
+    EXPECT_TRUE(paper.contains(u"''Recording''"_s) && paper.contains(u"'/ 1 R / 39 F / 0 Fl /'"_s));
 }
 
 TEST_F(RecordingList, PrintsAGroupAsOneField) {

@@ -1,6 +1,7 @@
 // The Select screen of the recordings: the statement that filters on seven tables make, what drops out of it, what a
 // return loses, and how the other channels stand afterwards.
 #include "support/desk.h"
+#include "support/kind_words.h"
 
 using namespace zv;
 using namespace Qt::StringLiterals;
@@ -102,6 +103,81 @@ TEST_F(RecordingSelect, MakesOneStatementOfFiltersOnSeveralTables) {
     EXPECT_EQ(hands->text(u"ComboCriterioOrden"_s), u"Histórical"_s);
 }
 
+TEST_F(RecordingSelect, OffersTheFieldsOfSevenTables) {
+    begin();
+    const std::vector<QString> clauses{u"Compositor"_s, u"Obra"_s,       u"Orquesta"_s,
+                                       u"Director"_s,   u"Interprete"_s, u"Soporte"_s};
+    QStringList captions, offered;
+    auto& list = hands->get<forms::Combo>(u"ComboCampo"_s);
+    for (int i = 0; i < list.ListCount(); ++i) offered += list.List(i);
+    for (const test::RecordingField& field : test::recordingFields()) {
+        captions += field.filtered;
+        selectOne(field.filtered, u"Smaller than"_s, u"XVIII"_s);
+        EXPECT_EQ(hands->text(u"ComboCampoOrden"_s) + hands->text(u"ComboCriterioOrden"_s), u"FieldHistórical"_s);
+        const auto at = std::size_t(std::find(clauses.begin(), clauses.end(), field.table) - clauses.begin());
+        if (at == clauses.size()) continue;
+        for (std::size_t i = 0; i < clauses.size(); ++i)
+            EXPECT_EQ(selection().Opciones[i],
+                      i != at ? QString() : field.column + (field.numeric ? u" < -1"_s : u" < 'XVIII'"_s));
+    }
+    EXPECT_EQ(offered, captions + QStringList{u"              FIELD"_s});
+    hands->click(u"BtnNueva"_s);
+    hands->paste(u"TxtValFiltro"_s, u"a#b##"_s + QString(200, u'c'));
+    EXPECT_EQ(hands->text(u"TxtValFiltro"_s).left(3), u"abc"_s);
+    EXPECT_LE(hands->text(u"TxtValFiltro"_s).size(), 75);
+}
+
+TEST_F(RecordingSelect, JoinsTheListsOfAllTablesBehindTheNotes) {
+    begin();
+    const auto select = [this](const QString& notes) {
+        selectOne(u"ORC Orc-Ens-Cho"_s, u"Contains"_s, u"York"_s);
+        further(u"BtnY"_s, u"CON Surname"_s, u"Contains"_s, u"a"_s);
+        further(u"BtnY"_s, u"FOR Record Company"_s, u"Same as"_s, u"Acme"_s);
+        further(u"BtnY"_s, u"PER Name"_s, u"Same as"_s, u"Ana"_s);
+        further(u"BtnY"_s, u"WOR Work"_s, u"Same as"_s, u"Sonata"_s);
+        further(u"BtnY"_s, u"COM Surname"_s, u"Contains"_s, u"e"_s);
+        further(u"BtnY"_s, u"REC Notes"_s, u"Same as"_s, notes);
+    };
+    memory(Kind::Grabacion).Posicion = 5;
+    select(u"live"_s);
+    accept();
+    EXPECT_EQ(statement(), All + u" WHERE ((Notas  = 'live') AND (IdCompositor=1) AND (IdObra=7) AND (IDGrabacion =3 "
+                                 "OR IDGrabacion =1) AND (IdSoporte=1) AND IDGrabacion=5 OR IDGrabacion=4 OR "
+                                 "IDGrabacion=9 AND IDGrabacion=6 OR IDGrabacion=2)"_s);
+    EXPECT_EQ(found(), u"2 4"_s) << "the bare lists stand on their own";
+    EXPECT_EQ(memory(Kind::Grabacion).Posicion, 1);
+    EXPECT_EQ(program->store.Data(Kind::Grabacion).Recordset().AbsolutePosition(), 0);
+
+    // The statement on the recordings itself fails: every other channel stays where the filters took it.
+    select(u"O'Brien"_s);
+    boxes.expect(u"Has occurred Error: 3075"_s, box::Critical);
+    accept();
+    QStringList stand;
+    store::Store& store = program->store;
+    for (int i = 0; i < 10; ++i)
+        stand +=
+            store.Data(1, i).RecordSource + u'|' + QString::number(store.Data(1, i).Recordset().AbsolutePosition() + 1);
+    EXPECT_EQ(stand.join(u'\n').toStdString(),
+              QStringList({
+                              u"SELECT * FROM Compositor WHERE Apellidos LIKE '*e*'|1"_s,
+                              u"SELECT * FROM Obra WHERE Nombre = 'Sonata'|1"_s,
+                              u"SELECT * FROM Director WHERE Apellidos LIKE '*a*'|2"_s,
+                              u"SELECT * FROM Orquesta WHERE Nombre LIKE '*York*'|2"_s,
+                              u"SELECT * FROM Soporte WHERE Discografica = 'Acme'|1"_s,
+                              u"SELECT * FROM Interprete WHERE Nombre = 'Ana'|1"_s,
+                              u"SELECT * FROM Grabacion|1"_s,
+                              u"SELECT * FROM RelacionDirector WHERE (IdDirector=1 OR IdDirector=2)|3"_s,
+                              u"SELECT * FROM RelacionOrquesta WHERE (IdOrquesta=1 OR IdOrquesta=2)|2"_s,
+                              u"SELECT * FROM RelacionInterprete WHERE (IdInterprete=1)|3"_s,
+                          })
+                  .join(u'\n')
+                  .toStdString());
+    EXPECT_EQ(memory(Kind::Grabacion).ContSel * 100 + memory(Kind::Grabacion).ContFil, 207)
+        << "of the selection before";
+    EXPECT_EQ(selection().ValorFiltro + selection().Opciones[0] + selection().Lista, u"#"_s);
+    EXPECT_EQ(selection().NT, 2);
+}
+
 TEST_F(RecordingSelect, WritesTheListOfEachTableInItsOwnWay) {
     begin();
     struct Case {
@@ -143,6 +219,7 @@ TEST_F(RecordingSelect, LosesItsClausesOnAReturn) {
         leaveAndReturn();
         EXPECT_EQ(rows(), u"COM Surname|Same as|'Sol'"_s);
         EXPECT_EQ(hands->text(u"LabNumFiltros"_s), u"1"_s);
+        EXPECT_EQ(hands->text(u"ComboCampoOrden"_s), u"Field"_s);
         if (another) further(u"BtnY"_s, u"WOR No. of  Movements"_s, u"Smaller than"_s, u"x"_s);
         if (another) further(u"BtnO"_s, u"FOR Record Company"_s, u"Same as"_s, u"Zeta"_s);
         accept();
@@ -168,6 +245,7 @@ TEST_F(RecordingSelect, SelectsAllAndEmptiesTheComposersList) {
     EXPECT_EQ(hands->text(u"LabNumReg"_s) + hands->text(u"LabNumRegFiltros"_s), u"11"_s);
     EXPECT_EQ(found(), u"3"_s);
     hands->click(u"BtnTodo"_s);
+    EXPECT_NE(memory(Kind::Compositor).MemoSel.Lista, u"#"_s) << "not before it is accepted";
     accept();
     EXPECT_EQ(statement(), All);
     EXPECT_EQ(memory(Kind::Grabacion).ContSel, 9);

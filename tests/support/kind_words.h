@@ -30,6 +30,37 @@ struct KindWords {
     const store::KindInfo& info() const { return store::info(kind); }
 };
 
+/// A field of the recordings' lists: caption in Select, table and column, and the caption in List.
+struct RecordingField {
+    QString filtered, table, column, listed;
+    bool numeric;
+};
+
+inline std::vector<RecordingField> recordingFields() {
+    static constexpr QStringView Words =
+        u"COM Name=Compositor.Nombre|COM Surname=Compositor.Apellidos|COM Date 1=Compositor.Fecha1*|"
+        u"COM Date 2=Compositor.Fecha2*|WOR Work=Obra.Nombre|WOR No.=Obra.Numero|WOR Tonality=Obra.Tonalidad|"
+        u"WOR Opus=Obra.Opus|WOR Opus No.=Obra.NumeroOpus|WOR Catalogue=Obra.Catalogo|"
+        u"WOR Catalogue No.=Obra.NumeroCatalogo|WOR Date 1=Obra.Fecha1*|WOR Date 2=Obra.Fecha2*|"
+        u"WOR Subtitle=Obra.Subtitulo|WOR Movements=Obra.Movimientos|WOR Total Time=Obra.TiempoTotal*|"
+        u"WOR No. of  Movements=Obra.NumeroMovimientos*=WOR No. of  Mov|ORC Orc-Ens-Cho=Orquesta.Nombre|"
+        u"CON Name=Director.Nombre|CON Surname=Director.Apellidos|PER Name=Interprete.Nombre|"
+        u"PER Surname=Interprete.Apellidos|PER Instrument-Voice=Interprete.Instrumento=PER Ins-Voice|"
+        u"FOR Record Company=Soporte.Discografica=FOR Rec Company|FOR Catalogue No.=Soporte.NumeroCatalogo|"
+        u"FOR Collection=Soporte.Coleccion|FOR No.-Reference=Soporte.NumeroReferencia|FOR Format=Soporte.Formato|"
+        u"FOR Recording=Soporte.Grabacion|FOR ( P )=Soporte.Recopilacion|FOR ( C )=Soporte.Edicion|"
+        u"FOR Location=Soporte.Emplazamiento|REC Notes=Grabacion.Notas";
+    std::vector<RecordingField> found;
+    for (const QString& field : Words.toString().split(u'|')) {
+        const QStringList parts = field.split(u'=');
+        QString column = parts[1].section(u'.', 1);
+        const bool numeric = column.endsWith(u'*');
+        if (numeric) column.chop(1);
+        found.push_back({parts[0], parts[1].section(u'.', 0, 0), column, parts.value(2, parts[0]), numeric});
+    }
+    return found;
+}
+
 /// All kinds but the works and the orchestras, whose screens depart from the pattern, and the recordings.
 inline const KindWords PlainKinds[] = {
     {store::Kind::Compositor, u"Composer", 50,

@@ -154,7 +154,6 @@ void GroupShowEdit::accepted() {
     (module1().*group_.ana).fillColumn(1, FreeRow);
     MSFlexGrid1->setRows(0);
     MSFlexGrid1->setCols(0);
-    BtnAnadirGrupo->setEnabled(true);
     showCount();
 }
 

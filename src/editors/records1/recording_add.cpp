@@ -14,7 +14,7 @@ FormReg1AnaGrabacion::FormReg1AnaGrabacion(shell::Context& context, QWidget* par
     TxtNotas->Change = [this] { store().memory.Grabacion.AnaNotas = TxtNotas->Text(); };
     addCounters();
     BtnGuardar = addButton(u"BtnGuardar"_s, u"Save"_s, u"Save the Record"_s, {5490, 7200, 1110, 420},
-                           [this] { BtnGuardar_Click(); });
+                           [this] { armed([this] { BtnGuardar_Click(); }); });
     BtnDeshacer = addButton(u"BtnDeshacer"_s, u"Undo"_s, u"Remove the Last Record"_s, {6750, 7200, 1110, 420},
                             [this] { BtnDeshacer_Click(); });
     BtnDeshacer->setEnabled(false);
@@ -71,7 +71,7 @@ void FormReg1AnaGrabacion::Lab_Click(int part) {
     if (partInfo(part).isGroup()) {
         if (!hasGroup(group(part))) return;
         showRemoveButton(part, true);
-        showGroup(part, groupCondition(part, group(part)), nullptr);
+        showGroup(part, groupCondition(part, groupKeys(group(part))), nullptr);
         return;
     }
     if (Data(part).Recordset().RecordCount() == 0) {
@@ -107,6 +107,10 @@ void FormReg1AnaGrabacion::BtnGuardar_Click() {
         MsgBox(store::MensaIntroducirIDentificador, box::Warning);
         return;
     }
+    // Read before anything is written: a full table ends here.
+    std::array<QStringList, PartCount> keys;
+    for (const int part : {ConductorPart, OrchestraPart, PerformerPart})
+        keys[std::size_t(part)] = groupKeys(group(part));
     Data().RecordSource = u"SELECT * FROM Grabacion "_s;
     Data().Refresh();
     if (Data().Recordset().RecordCount() != 0) Data().Recordset().MoveLast();
@@ -121,7 +125,7 @@ void FormReg1AnaGrabacion::BtnGuardar_Click() {
     const double recording = key();
     // A link that can't be written ends the save: what was written stays, and nothing is said.
     for (const int part : {ConductorPart, OrchestraPart, PerformerPart}) {
-        if (writeLinks(part, group(part), recording)) continue;
+        if (writeLinks(part, keys[std::size_t(part)], recording)) continue;
         Limpiar();
         module1().ErrorBaseDatos = false;
         return;

@@ -95,7 +95,7 @@ void RecordingScreen::showMovements() {
             }
             if (row + 1 != rows) ++row;
         }
-        LabObraTotal->setCaption(store::clockText(store::splitSeconds(Val(stored(u"TiempoTotal"_s)))));
+        LabObraTotal->setCaption(store::clockText(store::splitSeconds(toLong(Val(stored(u"TiempoTotal"_s))))));
     }
     LabObraNumeroMovimientos->setCaption(Val(count) != 0 ? count : QString());
     if (!tipsShown) return;
@@ -112,11 +112,15 @@ QString RecordingScreen::rowText(int part) {
 
 bool RecordingScreen::hasGroup(const FixedTable& table) { return keyAt(table, 0) > 0; }
 
-QString RecordingScreen::groupCondition(int part, const FixedTable& table, int rows) {
-    QStringList terms;
-    for (int row = 0; row < rows && keyAt(table, row) > 0; ++row)
-        terms += partInfo(part).group->keyColumn.toString() + u'=' + CStr(keyAt(table, row));
-    return terms.join(u" OR "_s);
+QStringList RecordingScreen::groupKeys(const FixedTable& table, int rows) {
+    QStringList keys;
+    for (int row = 0; row < rows && keyAt(table, row) > 0; ++row) keys += CStr(keyAt(table, row));
+    return keys;
+}
+
+QString RecordingScreen::groupCondition(int part, const QStringList& keys) {
+    const QString term = partInfo(part).group->keyColumn.toString() + u'=';
+    return keys.isEmpty() ? QString() : term + keys.join(u" OR "_s + term);
 }
 
 void RecordingScreen::showGroup(int part, const QString& condition, FixedTable* table) {
@@ -143,7 +147,7 @@ void RecordingScreen::showGroup(int part, const QString& condition, FixedTable* 
         table->at(row, 1) = Data(part).boundText(group.keyColumn.toString());
     }
     showPicture(part, count ? grid.TextMatrix(0, 1) : QString());
-    if (part == PerformerPart) showPerformerCount();
+    if (part == PerformerPart) LabInterpreteNumeroInterprete->setCaption(QString::number(count));
     Data(part).RecordSource = selectAll(part);
     Data(part).Refresh();
 }
@@ -201,15 +205,25 @@ void RecordingScreen::writeRecording(bool add, qint32 composer, qint32 work, qin
     store().GrabarRegistro(store::info(Kind::Grabacion).channel, 4, add, campos_);
 }
 
-bool RecordingScreen::writeLinks(int part, const FixedTable& table, double recording) {
+bool RecordingScreen::writeLinks(int part, const QStringList& keys, double recording) {
     const PartGroup& group = *partInfo(part).group;
-    for (int row = 0; keyAt(table, row) > 0; ++row) {
+    for (const QString& key : keys) {
         campos_.set(0, u"IdGrabacion", CStr(recording));
-        campos_.set(1, group.keyColumn, CStr(keyAt(table, row)));
+        campos_.set(1, group.keyColumn, key);
         store().GrabarRegistro(group.linkChannel, 2, true, campos_);
         if (module1().ErrorBaseDatos) return false;
     }
     return true;
+}
+
+void RecordingScreen::armed(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const RuntimeError& error) {
+        module1().Err = error.number();
+        store().reportError();
+        module1().ErrorBaseDatos = false;
+    }
 }
 
 void RecordingScreen::removeLinks(double recording) {

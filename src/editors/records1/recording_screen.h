@@ -44,9 +44,11 @@ class RecordingScreen : public shell::Screen {
     /// Shows the rows of a condition in a group's grid and its first picture; each row goes to the table if there is
     /// one. The channel is put back to the whole table.
     void showGroup(int part, const QString& condition, store::FixedTable* table);
-    /// The condition on the keys of a table, up to the first row without one. A table without such a row is read past
-    /// its end, error 9, unless it is read up to `rows` only.
-    static QString groupCondition(int part, const store::FixedTable& table, int rows = std::numeric_limits<int>::max());
+    /// The keys of a group's table, up to the first row without one. A table without such a row is read past its end,
+    /// error 9, unless it is read up to `rows` only.
+    static QStringList groupKeys(const store::FixedTable& table, int rows = std::numeric_limits<int>::max());
+    /// The condition on these keys.
+    static QString groupCondition(int part, const QStringList& keys);
     static bool hasGroup(const store::FixedTable& table);
 
     /// Empties what a part shows: default picture, labels or grid, no remove button.
@@ -59,8 +61,10 @@ class RecordingScreen : public shell::Screen {
 
     /// Fills Campos with the chosen keys and the notes, and writes the row of the recording.
     void writeRecording(bool add, qint32 composer, qint32 work, qint32 format);
-    /// Writes a link row for each key of a group's table. False after a failure.
-    bool writeLinks(int part, const store::FixedTable& table, double recording);
+    /// Writes a link row for each key of a group. False after a failure.
+    bool writeLinks(int part, const QStringList& keys, double recording);
+    /// Runs what a button of writing does; an error that is none of the catalogue's own is told, and ends it.
+    void armed(const std::function<void()>& work);
     /// Removes all link rows of a recording, conductors, orchestras, performers in turn.
     void removeLinks(double recording);
 

@@ -67,7 +67,7 @@ FormReg1MosGrabacion::FormReg1MosGrabacion(shell::Context& context, QWidget* par
     walk_.BtnRegresar->setToolTipText({});
     walk_.BtnModificar->Click = [this] { BtnModificar_Click(); };
     walk_.BtnEliminar->Click = [this] { BtnEliminar_Click(); };
-    walk_.BtnGuardar->Click = [this] { BtnGuardar_Click(); };
+    walk_.BtnGuardar->Click = [this] { armed([this] { BtnGuardar_Click(); }); };
     walk_.BtnDeshacer->Click = [this] { BtnDeshacer_Click(); };
     for (forms::Picture* picture : Imagen) picture->setEnabled(false);
 }
@@ -79,7 +79,10 @@ void FormReg1MosGrabacion::Form_Load() {
 
 void FormReg1MosGrabacion::Carga() {
     walk_.Navegable = true;
-    if (!selectionsClosed()) return;
+    if (!selectionsClosed()) {
+        if (module1().RegresoMosGrabacion) giveUp();
+        return;
+    }
     emptyScreen();
     if (!walk_.hasRows()) {
         walk_.TxtOrden->setText({});
@@ -176,23 +179,22 @@ void FormReg1MosGrabacion::Lab_Click(int part) {
 // After the load the channel holds the links of all recordings.
 QString FormReg1MosGrabacion::linkCondition(int part) {
     const double recording = key();
-    QStringList terms;
-    const QString column = partInfo(part).group->keyColumn.toString();
+    QStringList found;
     jet::Recordset& rows = links(part).Recordset();
-    for (int row = 0; row < rows.RecordCount(); ++row) {
-        rows.setAbsolutePosition(row);
-        if (Val(links(part).boundText(u"IdGrabacion"_s)) != recording) continue;
-        terms += column + u'=' + CStr(Val(links(part).boundText(column)));
-    }
-    return terms.join(u" OR "_s);
+    const std::vector<QString> recordings = rows.columnTexts(u"IdGrabacion"_s);
+    const std::vector<QString> keys = rows.columnTexts(partInfo(part).group->keyColumn.toString());
+    for (std::size_t row = 0; row < keys.size(); ++row)
+        if (Val(recordings[row]) == recording) found += CStr(Val(keys[row]));
+    return groupCondition(part, found);
 }
 
 void FormReg1MosGrabacion::importGroup(int part) {
     FixedTable& table = group(part);
     const bool read = Val(table.at(0, 1)) != NotRead;
-    const QString condition = read ? groupCondition(part, table, table.rows()) : linkCondition(part);
+    const QStringList keys = read ? groupKeys(table, table.rows()) : QStringList();
     // A table that is full to its last row ends without showing anything.
-    if (read && condition.count(u'=') > partInfo(part).group->limit) return;
+    if (keys.size() > partInfo(part).group->limit) return;
+    const QString condition = read ? groupCondition(part, keys) : linkCondition(part);
     if (condition.isEmpty()) return;
     showGroup(part, condition, &table);
     if (walk_.BtnGuardar->isEnabled() && hasGroup(table)) showRemoveButton(part, true);
@@ -255,31 +257,45 @@ void FormReg1MosGrabacion::modify() {
         MsgBox(store::MensaIntroducirIDentificador, box::Warning);
         return;
     }
+    // Read before anything is removed: a full table ends here.
+    std::array<QStringList, PartCount> keys;
+    for (const int part : {ConductorPart, OrchestraPart, PerformerPart})
+        keys[std::size_t(part)] = groupKeys(group(part));
+    openAlone(recording);
     removeLinks(recording);
     writeRecording(false, chosen(ComposerPart), chosen(WorkPart), chosen(FormatPart));
-    standOnRecording();
     if (module1().ErrorBaseDatos) {
         store().reportError();
         module1().ErrorBaseDatos = false;
         return;
     }
     for (const int part : {ConductorPart, OrchestraPart, PerformerPart}) {
-        if (writeLinks(part, group(part), recording)) continue;
+        if (writeLinks(part, keys[std::size_t(part)], recording)) continue;
         module1().ErrorBaseDatos = false;
         return;
     }
+    reopenSelection();
     resetGroups(FreeRow);
     module1().RegresoMosGrabacion = false;
     Carga();
     unlockTabs();
 }
 
-// A write leaves the channel on its first row, and a save that stops half-way is completed by the next one.
-void FormReg1MosGrabacion::standOnRecording() {
-    jet::Recordset& rows = Data().Recordset();
-    if (rows.RecordCount() == 0) return;
-    rows.MoveLast();
-    rows.setAbsolutePosition(std::min(walk_.HScroll->Value(), rows.RecordCount()) - 1);
+// A save that stops half-way is completed by the next one, which has to reach the same row: also where the change has
+// moved it within the selection or out of it.
+void FormReg1MosGrabacion::openAlone(double recording) {
+    QString& selection = module1().SeleccionGrabacion;
+    if (selection.isEmpty()) selection = Data().RecordSource;
+    Data().RecordSource = store::info(Kind::Grabacion).selectAll() + u" WHERE IdGrabacion="_s + CStr(recording);
+    Data().Refresh();
+}
+
+void FormReg1MosGrabacion::reopenSelection() {
+    QString& selection = module1().SeleccionGrabacion;
+    if (selection.isEmpty()) return;
+    Data().RecordSource = selection;
+    selection.clear();
+    Data().Refresh();
 }
 
 void FormReg1MosGrabacion::removeRow() {
@@ -302,9 +318,15 @@ void FormReg1MosGrabacion::removeRow() {
 
 void FormReg1MosGrabacion::BtnDeshacer_Click() {
     unlockTabs();
+    giveUp();
+    Carga();
+}
+
+// Forgets the working copy, and that it was modified.
+void FormReg1MosGrabacion::giveUp() {
+    reopenSelection();
     resetGroups(u" -1"_s);
     module1().RegresoMosGrabacion = false;
-    Carga();
 }
 
 void FormReg1MosGrabacion::unlockTabs() {

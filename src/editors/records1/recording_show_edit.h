@@ -33,8 +33,10 @@ class FormReg1MosGrabacion : public RecordingScreen {
     void BtnGuardar_Click();
     void BtnDeshacer_Click();
     void modify();
-    void standOnRecording();
+    void openAlone(double recording);
+    void reopenSelection();
     void removeRow();
+    void giveUp();
     void unlockTabs();
     void resetGroups(const QString& orchestraMark);
     qint32& chosen(int part) { return module1().*partInfo(part).mos; }

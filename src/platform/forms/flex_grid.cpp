@@ -1,5 +1,6 @@
 #include "platform/forms/flex_grid.h"
 
+#include "platform/forms/look_style_draw.h"
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -9,7 +10,7 @@ namespace zv::forms {
 
 namespace {
 
-/// Rows taller than this show their text from the top and wrapped, lower ones one line.
+/// Rows taller than this show their text from the top and wrapped, lower ones its first line.
 constexpr int LowRow = 420;
 /// More text than fits the tallest cell is not laid out.
 constexpr int LongestLine = 300, LongestText = 6000;
@@ -24,7 +25,7 @@ class CellDelegate : public QStyledItemDelegate {
         const bool low = option->rect.height() <= grid_->px(LowRow);
         option->text.truncate(low ? LongestLine : LongestText);
         if (low) {
-            option->text.replace(QChar::LineSeparator, u' ').replace(u'\n', u' ');
+            option->text = draw::firstLine(option->text);
             option->features &= ~QStyleOptionViewItem::WrapText;
         }
         option->textElideMode = Qt::ElideRight;

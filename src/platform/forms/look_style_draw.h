@@ -52,6 +52,8 @@ struct Setting {
     int lines = 1;
     int pitch = 0;
 };
+/// What stands before the first line end, with an ellipsis if a further line holds anything.
+QString firstLine(const QString& text);
 /// Carriage returns are drawn as blanks; nothing of the text is taken as a mnemonic.
 void text(QPainter& painter, const QRect& rect, const QString& text, const Setting& setting);
 

@@ -2,6 +2,7 @@
 #include "platform/forms/look_style_draw.h"
 
 #include <QTextLayout>
+#include <algorithm>
 
 namespace zv::forms::draw {
 
@@ -26,9 +27,7 @@ QStringList wrapped(const QString& text, const QFont& font, int width, int most)
         line.setLineWidth(width);
         const int start = line.textStart(), end = start + line.textLength();
         if (lines.size() + 1 == most && end < flat.size()) {
-            QString rest = flat.mid(start);
-            rest.replace(QChar::LineSeparator, u' ');
-            lines += QFontMetrics(font).elidedText(rest, Qt::ElideRight, width);
+            lines += QFontMetrics(font).elidedText(firstLine(flat.mid(start)), Qt::ElideRight, width);
             break;
         }
         QString words = flat.mid(start, line.textLength());
@@ -41,6 +40,13 @@ QStringList wrapped(const QString& text, const QFont& font, int width, int most)
 
 } // namespace
 
+QString firstLine(const QString& text) {
+    const auto endsLine = [](QChar c) { return c == u'\n' || c == u'\r' || c == QChar::LineSeparator; };
+    const auto end = std::find_if(text.begin(), text.end(), endsLine);
+    QString line(text.begin(), end - text.begin());
+    return std::all_of(end, text.end(), endsLine) ? line : line + u'…';
+}
+
 void text(QPainter& painter, const QRect& rect, const QString& whole, const Setting& setting) {
     if (whole.isEmpty() || rect.isEmpty()) return;
     painter.setFont(setting.font);
@@ -49,10 +55,8 @@ void text(QPainter& painter, const QRect& rect, const QString& whole, const Sett
     const QString shown = blanked(whole);
     const int across = static_cast<int>(setting.alignment & Qt::AlignHorizontal_Mask) | Qt::TextSingleLine;
     if (setting.lines == 1) {
-        QString line = shown;
-        line.replace(u'\n', u' ');
         painter.drawText(rect, across | static_cast<int>(setting.alignment & Qt::AlignVertical_Mask),
-                         metrics.elidedText(line, Qt::ElideRight, rect.width()));
+                         metrics.elidedText(firstLine(shown), Qt::ElideRight, rect.width()));
         return;
     }
     const int pitch = setting.pitch > 0 ? setting.pitch : metrics.lineSpacing();
