@@ -96,4 +96,13 @@ QImage stage(const QColor& ground) {
     return image;
 }
 
+QImage cover(const QColor& ground, const QColor& plate, const QColor& ink) {
+    QImage image(240, 240, QImage::Format_RGB32);
+    image.fill(ground);
+    QPainter painter(&image);
+    painter.fillRect(30, 26, 180, 70, plate);
+    for (int line = 0; line < 5; ++line) painter.fillRect(26, 130 + 16 * line, 188, 5, ink);
+    return image;
+}
+
 } // namespace zv::tour

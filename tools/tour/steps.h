@@ -13,6 +13,15 @@ struct Composer {
 /// Those that stay in the catalogue, in the order in which they are added.
 const std::vector<Composer>& composers();
 
+// Ways that several steps go.
+
+/// Accepts an Add screen that saves. steps_editors.cpp.
+void save(Tour& tour);
+/// Adds a filter on the Select screen. steps_list.cpp.
+void addFilter(Tour& tour, const QString& field, const QString& criterion, const QString& value);
+/// Gives the window another size. steps_window.cpp.
+void resize(Tour& tour, QSize size);
+
 // Records I: steps_editors.cpp, steps_list.cpp.
 void presentation(Tour& tour);
 void addComposer(Tour& tour);
@@ -35,6 +44,17 @@ void addGroupings(Tour& tour);
 void showGrouping(Tour& tour);
 void filterGroupings(Tour& tour);
 void printGroupings(Tour& tour);
+
+// Recordings: steps_recording.cpp.
+void addParts(Tour& tour);
+void tripToConductors(Tour& tour);
+void composeRecording(Tour& tour);
+void composeFurther(Tour& tour);
+void showRecording(Tour& tour);
+void showRecordingLarge(Tour& tour);
+void filterRecordings(Tour& tour);
+void listRecordings(Tour& tour);
+void printRecordings(Tour& tour);
 
 // Report, help, about: steps_report.cpp.
 void readReport(Tour& tour);

@@ -28,12 +28,6 @@ void enter(Tour& tour, const Composer& composer) {
                   tour.files.shown);
 }
 
-void save(Tour& tour) {
-    tour.boxes.expect(store::MensaGrabadoBien, box::Information);
-    tour.hands().click(u"BtnGuardar"_s);
-    tour.boxes.checkAllShown();
-}
-
 QString rowOf(const Composer& composer) {
     const auto year = [](const QString& text) { return text.isEmpty() ? u"0"_s : text; };
     return QStringList{composer.name, composer.surname, year(composer.year1), year(composer.year2), composer.notes}
@@ -65,6 +59,12 @@ Composer asMistyped(Composer composer) {
 const Composer Twice{u"Josef"_s, u"Haydn"_s, u"1732"_s, {}, u"Entered twice."_s, {}};
 
 } // namespace
+
+void save(Tour& tour) {
+    tour.boxes.expect(store::MensaGrabadoBien, box::Information);
+    tour.hands().click(u"BtnGuardar"_s);
+    tour.boxes.checkAllShown();
+}
 
 const std::vector<Composer>& composers() {
     static const std::vector<Composer> all = {

@@ -1,5 +1,4 @@
 // The same road for a kind of Records II: groupings are added, shown, filtered, listed and printed.
-#include "store/messages.h"
 #include "tour/steps.h"
 #include <QFileInfo>
 
@@ -43,8 +42,7 @@ void addGroupings(Tour& tour) {
             hands.doubleClick(u"Imagen"_s);
         }
         if (rows.isEmpty()) tour.photograph();
-        tour.boxes.expect(store::MensaGrabadoBien, box::Information);
-        hands.click(u"BtnGuardar"_s);
+        save(tour);
         rows += QStringList{g.entity, g.city, g.country, g.year.isEmpty() ? u"0"_s : g.year, g.activity, g.notes}.join(
             u'|');
     }
@@ -73,10 +71,7 @@ void filterGroupings(Tour& tour) {
     driver::Driver& hands = tour.hands();
     hands.go(SelectNumber);
     hands.click(u"BtnNueva"_s);
-    hands.choose(u"ComboCampo"_s, u"Activity"_s);
-    hands.choose(u"ComboCriterio"_s, u"Does not contain"_s);
-    hands.type(u"TxtValFiltro"_s, u"choir"_s);
-    hands.click(u"BtnAnadir"_s);
+    addFilter(tour, u"Activity"_s, u"Does not contain"_s, u"choir"_s);
     hands.choose(u"ComboCampoOrden"_s, u"Date"_s);
     hands.choose(u"ComboCriterioOrden"_s, u"Descending"_s);
     hands.click(u"BtnAceptar"_s);

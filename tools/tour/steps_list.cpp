@@ -16,13 +16,6 @@ const std::vector<std::size_t> Selected{5, 0, 3, 2};
 /// All composers by their surnames.
 const std::vector<std::size_t> BySurname{1, 0, 5, 2, 7, 6, 4, 3};
 
-void addFilter(Tour& tour, const QString& field, const QString& criterion, const QString& value) {
-    tour.hands().choose(u"ComboCampo"_s, field);
-    tour.hands().choose(u"ComboCriterio"_s, criterion);
-    tour.hands().type(u"TxtValFiltro"_s, value);
-    tour.hands().click(u"BtnAnadir"_s);
-}
-
 /// The page of the grid as it has to be, from the composers at those places.
 QString pageOf(const QString& heading, std::span<const std::size_t> places, bool withNotes, int first = 1) {
     QString page = heading + u'\n';
@@ -45,6 +38,13 @@ int picturesShown(Tour& tour) {
 }
 
 } // namespace
+
+void addFilter(Tour& tour, const QString& field, const QString& criterion, const QString& value) {
+    tour.hands().choose(u"ComboCampo"_s, field);
+    tour.hands().choose(u"ComboCriterio"_s, criterion);
+    tour.hands().type(u"TxtValFiltro"_s, value);
+    tour.hands().click(u"BtnAnadir"_s);
+}
 
 void filterComposers(Tour& tour) {
     driver::Driver& hands = tour.hands();

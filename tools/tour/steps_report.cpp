@@ -1,6 +1,5 @@
 // The report, the help and the screen about the program.
 #include "tour/steps.h"
-#include <QApplication>
 #include <QTextEdit>
 
 namespace zv::tour {
@@ -14,14 +13,10 @@ constexpr int ReportNumber = 57, GeneralNumber = 58, AddNumber = 1, AboutNumber 
 /// The pages of each chain of help, by the number of its first one.
 const std::vector<std::vector<int>> Chains{{58}, {59, 60, 61}, {62}, {63, 64, 65}, {66, 67}};
 
-void resize(Tour& tour, QSize size) {
-    tour.window().resize(size);
-    QApplication::processEvents();
-}
-
 } // namespace
 
-// Nine composers were added and one of them removed, all eight are selected; of three groupings two are.
+// Nine composers were added and one of them removed, all eight are selected; of three groupings two are, and of three
+// recordings two. Their twelve parts are two records of each kind, of the performers four.
 void readReport(Tour& tour) {
     tour.hands().go(ReportNumber);
     tour.hands().screen(u"FormInforme"_s);
@@ -34,14 +29,21 @@ void readReport(Tour& tour) {
                                                            {"LabAgrNumRegTotal", "3"},
                                                            {"LabAgrNumRegSeleccion", "2"},
                                                            {"LabAgrNumFiltros1", "1"},
-                                                           {"LabObraOrden", "0"},
-                                                           {"LabSumaNumRegTotal", "11"},
-                                                           {"LabSumaNumRegNuevos", "12"},
+                                                           {"LabObraOrden", "1"},
+                                                           {"LabOrqOrden", "2"},
+                                                           {"LabIntNumRegTotal", "4"},
+                                                           {"LabGraNumRegTotal", "3"},
+                                                           {"LabGraNumRegSeleccion", "2"},
+                                                           {"LabGraNumFiltros", "2"},
+                                                           {"LabGraNumCampos", "8"},
+                                                           {"LabInsOrden", "0"},
+                                                           {"LabSumaNumRegTotal", "26"},
+                                                           {"LabSumaNumRegNuevos", "27"},
                                                            {"LabSumaNumRegEliminados", "1"},
-                                                           {"LabSumaNumRegSeleccion", "10"},
+                                                           {"LabSumaNumRegSeleccion", "24"},
                                                            {"LabSumaOrden", "-"},
-                                                           {"LabRxCNumRegTotal", "69"},
-                                                           {"LabRxCNumRegSeleccion", "62"}};
+                                                           {"LabRxCNumRegTotal", "290"},
+                                                           {"LabRxCNumRegSeleccion", "244"}};
     for (const auto& [label, figure] : figures) tour.shows(QString::fromLatin1(label), QString::fromLatin1(figure));
 }
 

@@ -9,7 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int FirstNumber = 1, LastNumber = 68, ComposerNumber = 15, ListNumber = 22, GroupingListNumber = 51;
+constexpr int FirstNumber = 1, LastNumber = 68, ComposerNumber = 15, RecordingNumber = 21, ListNumber = 22,
+              GroupingListNumber = 51;
 
 /// The name of each screen, told apart from the program's own list.
 QString formName(int number) {
@@ -32,8 +33,7 @@ bool isFurtherPage(int number) { return number == 60 || number == 61 || number =
 
 /// The block of screen and tabs fits the window, centred to the pixel, and fills it at the scale wanted.
 void resize(Tour& tour, QSize size, double scale) {
-    tour.window().resize(size);
-    QApplication::processEvents();
+    zv::tour::resize(tour, size);
     tour.same(u"scale"_s, QString::number(scale), QString::number(tour.hands().program().scale.value()));
     const QRect block = tour.window().Solapas().block(), window = tour.window().rect();
     tour.require(window.contains(block), u"The screen does not fit the window."_s);
@@ -42,6 +42,11 @@ void resize(Tour& tour, QSize size, double scale) {
 }
 
 } // namespace
+
+void resize(Tour& tour, QSize size) {
+    tour.window().resize(size);
+    QApplication::processEvents();
+}
 
 void everyTab(Tour& tour) {
     for (int number = FirstNumber; number <= LastNumber; ++number) {
@@ -94,6 +99,9 @@ void reopen(Tour& tour) {
         tour.require(shown == !composer.picture.isEmpty(), u"The wrong picture: "_s + composer.surname);
     }
     tour.sameRows(u"Compositor"_s, tour.composersBefore, tour.stored(u"Compositor"_s));
+    tour.hands().go(RecordingNumber);
+    tour.shows(u"LabObraNombre"_s, u"Symphony"_s);
+    tour.shows(u"LabInterpreteNumeroInterprete"_s, u"4"_s);
     tour.hands().go(GroupingListNumber - 7);
     tour.shows(u"LabNombre"_s, u"Wiener Philharmoniker"_s);
     tour.photograph();

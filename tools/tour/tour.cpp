@@ -26,6 +26,12 @@ void drawPictures(const QTemporaryDir& folder) {
     portrait(QColor(0xB8, 0x9A, 0xA8), Hair::Bun, true).save(folder.filePath(u"schumann.jpg"_s), nullptr, 92);
     portrait(QColor(0x9A, 0xB0, 0x94), Hair::Veil, false).save(folder.filePath(u"bingen.bmp"_s));
     portrait(QColor(0xC8, 0xAE, 0x86), Hair::Wig, false).save(folder.filePath(u"haydn.jpg"_s), nullptr, 92);
+    portrait(QColor(0x9A, 0xA6, 0xB8), Hair::Short, false).save(folder.filePath(u"conductor.jpg"_s), nullptr, 92);
+    portrait(QColor(0xA8, 0x8F, 0x9A), Hair::Bun, true).save(folder.filePath(u"soprano.jpg"_s), nullptr, 92);
+    cover(QColor(0x2C, 0x4A, 0x3C), QColor(0xD9, 0xCD, 0xAA), QColor(0xD9, 0xCD, 0xAA))
+        .save(folder.filePath(u"score.bmp"_s));
+    cover(QColor(0xE2, 0xB8, 0x3C), QColor(0x22, 0x2C, 0x58), QColor(0x2A, 0x22, 0x1C))
+        .save(folder.filePath(u"cover.bmp"_s));
     stage(QColor(0x22, 0x2C, 0x58)).save(folder.filePath(u"vienna.jpg"_s), nullptr, 92);
     stage(QColor(0x3F, 0x54, 0x4A)).save(folder.filePath(u"berlin.bmp"_s));
 }
