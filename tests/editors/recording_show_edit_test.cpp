@@ -430,6 +430,77 @@ TEST_F(RecordingShowEdit, keysOfALongerGroupBeforeAreSavedWithAShorterOne) {
     EXPECT_EQ(marks(module1().ListaInterpreteMos, 9, 6), u"10,-2,-1,-1,-1,-1"_s);
 }
 
+TEST_F(RecordingShowEdit, aHundredOfTheLongestNamesAreShownAndSavedAgain) {
+    const QString longest(50, u'W');
+    putParts(3, 100);
+    for (const QString& table : {u"Director"_s, u"Interprete"_s})
+        sql(u"UPDATE %1 SET Nombre = '%2', Apellidos = '%2'"_s.arg(table, longest));
+    sql(u"UPDATE Interprete SET Instrumento = '%1'"_s.arg(longest));
+    sql(u"UPDATE Orquesta SET Nombre = '%1'"_s.arg(QString(75, u'M')));
+    QList<int> all;
+    for (int key = 100; key > 0; --key) all += key;
+    putRecordings({{1, 1, 1, {3, 1}, {2}, all}});
+    open();
+    const QString person = longest + u' ' + longest;
+    const QString people100 = QStringList(100, person + u", "_s + longest).join(u'|');
+    EXPECT_EQ(people(), person + u'|' + person + u"; "_s + QString(75, u'M') + u"; "_s + people100);
+    hands->click(u"BtnModificar"_s);
+    trip(Performer);
+    auto& grid = hands->get<forms::FlexGrid>(u"MSFlexGrid1"_s);
+    EXPECT_EQ(grid.Rows(), 100);
+    EXPECT_EQ(grid.TextMatrix(99, 0), person + u", "_s + longest);
+    // It is in the group already: a full one takes nothing more, and says nothing.
+    hands->click(u"BtnAñadirGrupo"_s);
+    EXPECT_EQ(grid.Rows(), 100);
+    back();
+    hands->click(u"BtnGuardar"_s);
+    std::ranges::reverse(all);
+    QStringList links;
+    for (const int key : all) links += u"1|%1"_s.arg(key);
+    EXPECT_EQ(stored(u"RelacionInterprete"_s, u"IdGrabacion, IdInterprete"_s), links);
+    EXPECT_EQ(listed(Performer), people100);
+    EXPECT_EQ(state(), showing);
+}
+
+TEST_F(RecordingShowEdit, whatTwoRecordingsShareStaysWithTheOther) {
+    putParts(4, 4);
+    const Recording shared{2, 2, 2, {3, 1}, {1, 2}, {4, 1}, u"both"_s};
+    putRecordings({shared, shared});
+    open();
+    const QString whole = people();
+    hands->click(u"BtnModificar"_s);
+    hands->click(u"BtnEliImaDirector"_s);
+    hands->click(u"BtnGuardar"_s);
+    EXPECT_EQ(links(), u"2-3 2-1; 2-1 2-2 1-1 1-2; 2-4 2-1 1-1 1-4"_s);
+    hands->click(u"BtnEliminar"_s);
+    hands->click(u"BtnGuardar"_s);
+    EXPECT_EQ(people(), whole);
+    EXPECT_EQ(keys(false), u"2 2 2"_s);
+    EXPECT_EQ(rows(), QStringList(u"2|2|2|2|both"_s));
+    EXPECT_EQ(links(), u"2-3 2-1; 2-1 2-2; 2-4 2-1"_s);
+    for (const Part part : {Composer, Work, Orchestra, Conductor, Performer, Format})
+        EXPECT_EQ(stored(name(part), u"*"_s).size(), 4) << name(part).toStdString();
+}
+
+TEST_F(RecordingShowEdit, linksToNothingAreLeftOutAndASaveDropsThem) {
+    putParts(4, 4);
+    putRecordings({{1, 1, 1, {77, 2}, {88}, {3}}, {1, 1, 1, {1}, {1}, {1}}});
+    put({u"RelacionDirector"_s, u"IdGrabacion, IdDirector"_s, {u"1, NULL"_s, u"NULL, 1"_s, u"99, 1"_s}});
+    put({u"RelacionInterprete"_s, u"IdGrabacion, IdInterprete"_s, {u"1, -1"_s, u"1, 0"_s, u"1, 2"_s, u"1, 2"_s}});
+    open();
+    EXPECT_EQ(people(), u"D Conductor 2; ; P Performer 2, horn|P Performer 3, horn"_s);
+    EXPECT_TRUE(pictureOf(Orchestra).startsWith(u"default"_s));
+    hands->click(u"BtnModificar"_s);
+    EXPECT_EQ(removable(), u"Compositor Obra Director Interprete Soporte"_s);
+    hands->click(u"BtnGuardar"_s);
+    // Those of other recordings stay, also of one that is not there.
+    EXPECT_EQ(stored(u"RelacionDirector"_s, u"coalesce(IdGrabacion, 'none') || '-' || IdDirector"_s).join(u' '),
+              u"2-1 none-1 99-1 1-2"_s);
+    EXPECT_EQ(links().section(u"; "_s, 1), u"2-1; 2-1 1-2 1-3"_s);
+    walk(2);
+    EXPECT_EQ(people(), u"D Conductor 1; Orchestra 1; P Performer 1, horn"_s);
+}
+
 TEST_F(RecordingShowEdit, removingStepsBackToTheLastOne) {
     three();
     open(2);
