@@ -1,7 +1,5 @@
 #include "editors/editor_member.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 namespace zv::test {
 
 using namespace Qt::StringLiterals;
@@ -27,10 +25,6 @@ const Field& EditorMember::identifier() const {
 
 const Field& EditorMember::year() const {
     return *std::ranges::find_if(kind.fields, [](const Field& f) { return f.value == Value::Year && f.limit == 4; });
-}
-
-void EditorMember::sql(const QString& statement) {
-    SQLite::Database(file().toStdString(), SQLite::OPEN_READWRITE).exec(statement.toStdString());
 }
 
 void EditorMember::fill(int rows) {

@@ -40,8 +40,6 @@ class EditorMember : public Desk, public ::testing::WithParamInterface<Kind> {
     QStringList column(const store::Field& field) { return stored(table, field.column.toString()); }
     QStringList identifiers() { return column(identifier()); }
 
-    /// Runs a statement on the file, as another program would.
-    void sql(const QString& statement);
     /// Fills the table with rows named "Row 1" to "Row n" before the start.
     void fill(int rows);
     /// The program anew on the same file.

@@ -1,7 +1,6 @@
 // The groups that the Show-Edit screens of conductors, orchestras and performers gather for a recording.
 #include "editors/editor_member.h"
 #include <QTest>
-#include <SQLiteCpp/SQLiteCpp.h>
 
 using namespace Qt::StringLiterals;
 
@@ -219,8 +218,7 @@ TEST_P(Group, whateverIsAcceptedGivesTheGroupUp) {
 
     gather();
     modifyName();
-    SQLite::Database(file().toStdString(), SQLite::OPEN_READWRITE)
-        .exec((u"DELETE FROM "_s + kind.table.toString()).toStdString());
+    sql(u"DELETE FROM "_s + kind.table.toString());
     boxes.expect(u"Has occurred Error: 3167"_s, box::Critical);
     hands->click(u"BtnGuardar"_s);
     EXPECT_EQ(shown(), u"");

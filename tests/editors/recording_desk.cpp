@@ -1,7 +1,5 @@
 #include "editors/recording_desk.h"
 
-#include <SQLiteCpp/SQLiteCpp.h>
-
 namespace zv::test {
 
 using store::Kind;
@@ -14,10 +12,6 @@ constexpr Kind PartKind[] = {Kind::Compositor, Kind::Obra,       Kind::Orquesta,
 } // namespace
 
 QString RecordingDesk::name(int part) { return store::info(PartKind[part]).table.toString(); }
-
-void RecordingDesk::sql(const QString& statement) {
-    SQLite::Database(file().toStdString(), SQLite::OPEN_READWRITE).exec(statement.toStdString());
-}
 
 void RecordingDesk::putParts(int count, int performers) {
     const auto fill = [this](const QString& into, const QString& values, int rows) {

@@ -26,8 +26,6 @@ class RecordingDesk : public Desk {
     };
     /// Adds recordings, the first gets the key 1.
     void putRecordings(const QList<Recording>& recordings);
-    /// Runs a statement on the file, as another program would.
-    void sql(const QString& statement);
     /// A picture of that size in pixels; its path.
     QString picture(const QString& name, QSize size);
 

@@ -1,12 +1,11 @@
 // A store on a catalogue of its own in a temporary folder.
 #pragma once
 
+#include "plain_file.h"
 #include "store/channels.h"
 #include "store/messages.h"
 #include "support/readable.h"
-#include <QStringList>
 #include <QTemporaryDir>
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
 namespace zv::store::test {
@@ -29,22 +28,9 @@ class StoreTest : public ::testing::Test {
     void load() { store.load(folder.path()); }
 
     /// Runs a statement on the file, as any other tool would.
-    void sql(const QString& statement) {
-        SQLite::Database(file().toStdString(), SQLite::OPEN_READWRITE).exec(statement.toStdString());
-    }
+    void sql(const QString& statement) { plain::run(file(), statement); }
     /// Rows of a statement straight from the file, columns joined by "|".
-    QStringList rows(const QString& statement) {
-        SQLite::Database database(file().toStdString(), SQLite::OPEN_READONLY);
-        SQLite::Statement query(database, statement.toStdString());
-        QStringList lines;
-        while (query.executeStep()) {
-            QStringList cells;
-            for (int i = 0; i < query.getColumnCount(); ++i)
-                cells += QString::fromStdString(query.getColumn(i).getString());
-            lines += cells.join(u'|');
-        }
-        return lines;
-    }
+    QStringList rows(const QString& statement) { return plain::rows(file(), statement); }
 
     /// The state of the generic writes: the flag and the number of the last error.
     QString errorState() const {

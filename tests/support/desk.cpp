@@ -1,9 +1,9 @@
 #include "support/desk.h"
 
+#include "plain_file.h"
 #include "platform/forms/look_style.h"
 #include <QApplication>
 #include <QTest>
-#include <SQLiteCpp/SQLiteCpp.h>
 
 namespace zv::test {
 
@@ -62,18 +62,8 @@ void Desk::close(int answer) {
     program->window.close();
 }
 
-QStringList Desk::stored(const QString& table, const QString& columns) {
-    SQLite::Database database(file().toStdString(), SQLite::OPEN_READONLY);
-    SQLite::Statement query(database,
-                            (u"SELECT "_s + columns + u" FROM "_s + table + u" ORDER BY rowid"_s).toStdString());
-    QStringList lines;
-    while (query.executeStep()) {
-        QStringList cells;
-        for (int i = 0; i < query.getColumnCount(); ++i)
-            cells += QString::fromStdString(query.getColumn(i).getString());
-        lines += cells.join(u'|');
-    }
-    return lines;
-}
+QStringList Desk::stored(const QString& table, const QString& columns) { return plain::stored(file(), table, columns); }
+
+void Desk::sql(const QString& statement) { plain::run(file(), statement); }
 
 } // namespace zv::test

@@ -33,6 +33,9 @@ class Desk : public ::testing::Test {
     /// Rows of a table straight from the file, columns joined by "|".
     QStringList stored(const QString& table, const QString& columns);
 
+    /// Runs a statement on the file, as another program would.
+    void sql(const QString& statement);
+
     QString folder() const { return folder_.path(); }
     QString file() const { return folder_.filePath(store::DatabaseFile); }
     store::KindMemory& memory(store::Kind kind) { return program->store.memory.of(kind); }

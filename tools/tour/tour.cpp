@@ -1,5 +1,6 @@
 #include "tour/tour.h"
 
+#include "plain_file.h"
 #include "platform/forms/look_style.h"
 #include "tour/portraits.h"
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QPainter>
 #include <QProcess>
 #include <QStandardPaths>
-#include <SQLiteCpp/SQLiteCpp.h>
 #include <cstdio>
 
 namespace zv::tour {
@@ -100,17 +100,7 @@ void Tour::same(const QString& what, const QString& expected, const QString& see
 }
 
 QStringList Tour::stored(const QString& table, const QString& columns) {
-    SQLite::Database database(catalogue().toStdString(), SQLite::OPEN_READONLY);
-    SQLite::Statement query(database,
-                            (u"SELECT "_s + columns + u" FROM "_s + table + u" ORDER BY rowid"_s).toStdString());
-    QStringList lines;
-    while (query.executeStep()) {
-        QStringList cells;
-        for (int i = 0; i < query.getColumnCount(); ++i)
-            cells += QString::fromStdString(query.getColumn(i).getString());
-        lines += cells.join(u'|');
-    }
-    return lines;
+    return plain::stored(catalogue(), table, columns);
 }
 
 bool Tour::pdfHolds(const QString& pdf, const QStringList& words) {
