@@ -1,6 +1,10 @@
 #include "app/program.h"
 
+#include <QCoreApplication>
+
 namespace zv::app {
+
+Program::~Program() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 QSize startSize(QSize desktop) {
     // What a window manager puts around a window.

@@ -12,6 +12,8 @@ class Program {
     Program(MessageBoxes& boxes, FileDialogs& files, printing::PrinterDialogs& printers)
         : engine(store::tableDefs()), store(engine, boxes), context{store, boxes, files, printers, scale},
           window(engine, context, scale, screenList()) {}
+    /// Deletes the forms that were unloaded last and still wait for it: they hold on to the scale.
+    ~Program();
 
     forms::Scale scale;
     jet::DBEngine engine;
