@@ -58,7 +58,7 @@ void FormInforme::addHeadings() {
 
 Label* FormInforme::addFigure(const QString& name, const ReportColumn& column, const TwipsRect& row,
                               const QColor& ground, bool bold) {
-    auto* figure = addLabel(name, Role::None, u"0"_s, {column.left, row.Top, column.width - FigureEnd, row.Height},
+    auto* figure = addLabel(name, Role::Figure, u"0"_s, {column.left, row.Top, column.width - FigureEnd, row.Height},
                             type::M, bold, ToRight);
     figure->setForeColor(column.content == Content::Fields ? colour::Soft : colour::Ink);
     figure->setBackColor(ground);

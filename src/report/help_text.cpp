@@ -32,6 +32,7 @@ bool isPoint(const QString& paragraph) {
 
 HelpText::HelpText(QWidget* parent) : Control(parent) {
     setRole(this, Role::TextBox);
+    setAccessibleName(QStringLiteral("Help"));
     setReadOnly(true);
     setTabChangesFocus(true);
     setUndoRedoEnabled(false);

@@ -44,7 +44,7 @@ struct Badge {
 
 class MockUp : public forms::Control<QWidget> {
   public:
-    explicit MockUp(QWidget* parent) : Control(parent) {}
+    explicit MockUp(QWidget* parent) : Control(parent) { setAccessibleName(QStringLiteral("Drawing of a Screen")); }
 
     void set(Shapes shapes, std::vector<Badge> badges);
     void clearHandlers() override {}

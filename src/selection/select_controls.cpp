@@ -11,6 +11,7 @@ using namespace forms;
 SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QString& name, const store::KindInfo& kind)
     : Screen(context, parent, name), kind_(kind) {
     auto* emblem = add<Picture>({}, {240, 240, 3000, 3000});
+    emblem->setAccessibleName(kind.title.toString());
     emblem->setPicture({{}, kind.drawing.toString(), {3000, 3000}});
     LabBaseDatos = addLabel(u"LabBaseDatos"_s, Role::Heading, kind.title.toString(), {240, 3360, 3000, 420},
                             type::Database, true, Qt::AlignCenter);
@@ -28,6 +29,7 @@ SelectScreen::SelectScreen(shell::Context& context, QWidget* parent, const QStri
     LabOpcionSQL->setFocusPolicy(Qt::StrongFocus); // long words are scrolled by the keys
     setOpenLook(LabOpcionSQL);
     LabOpcionSQL->setToolTipText(u"Filters"_s);
+    LabOpcionSQL->setAccessibleName(u"Filters in Words"_s);
     addOrderFrame();
     BtnAceptar = addButton(u"BtnAceptar"_s, u"Accept"_s, u"Accept Selection"_s, {8700, 7200, 1170, 420},
                            [this] { BtnAceptar_Click(); });

@@ -56,20 +56,24 @@ constexpr int RowTop[] = {0, 405, 810};
 FormSolapas::FormSolapas(Context& context, QWidget* window, std::vector<ScreenEntry> screens)
     : Form(window, context.scale, u"FormSolapas"_s, ScreenWidth, 1275), context_(context), window_(window),
       screens_(std::move(screens)) {
-    const auto row = [this](const QString& name, int level, const Tabs& tabs, int first) {
+    const auto row = [this](const QString& name, const QString& spoken, int level, const Tabs& tabs, int first) {
         auto* control = add<TabControl>(name, {120, RowTop[level], widthOf(tabs), 405});
         control->setType(forms::type::G, false);
         control->setTabs(tabs, first);
+        control->setAccessibleName(spoken);
         return control;
     };
-    TabNivel1 = row(u"TabNivel1"_s, 0, Level1, 0);
-    TabRegistros1 = row(u"TabRegistros1"_s, 1, Functions, 2);
-    TabRegistros2 = row(u"TabRegistros2"_s, 1, Functions, 2);
-    TabAyuda = row(u"TabAyuda"_s, 1, Help, 0);
+    // A row of tabs goes by the tab that brings it up.
+    const auto word = [](const Tabs& tabs, int tab) { return tabs[std::size_t(tab)].first.simplified(); };
+    TabNivel1 = row(u"TabNivel1"_s, u"Screens"_s, 0, Level1, 0);
+    TabRegistros1 = row(u"TabRegistros1"_s, word(Level1, 0), 1, Functions, 2);
+    TabRegistros2 = row(u"TabRegistros2"_s, word(Level1, 1), 1, Functions, 2);
+    TabAyuda = row(u"TabAyuda"_s, word(Level1, 3), 1, Help, 0);
     for (int records = 0; records < 2; ++records)
         for (int f = 0; f < 4; ++f) {
             TabControl* control =
-                row(u"TabReg%1"_s.arg(records + 1) + FunctionNames[f].toString(), 2, Entities[std::size_t(records)], 0);
+                row(u"TabReg%1"_s.arg(records + 1) + FunctionNames[f].toString(),
+                    word(Level1, records) + u", "_s + word(Functions, f), 2, Entities[std::size_t(records)], 0);
             control->Click = [this, records, f] { entityClick(records + 1, static_cast<Function>(f)); };
             TabEntidad[std::size_t(records)][std::size_t(f)] = control;
         }

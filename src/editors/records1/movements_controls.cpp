@@ -23,18 +23,24 @@ void MovementsPanel::addControls(EditorScreen& screen) {
     TxtHoras = screen.add<TextBox>(u"TxtHoras"_s, {8415, 2595, 390, 315});
     TxtMinutos = screen.add<TextBox>(u"TxtMinutos"_s, {8805, 2595, 390, 315});
     TxtSegundos = screen.add<TextBox>(u"TxtSegundos"_s, {9195, 2595, 390, 315});
+    TxtMovimiento->setAccessibleName(u"Movement"_s);
+    TxtHoras->setAccessibleName(u"Hours"_s);
+    TxtMinutos->setAccessibleName(u"Minutes"_s);
+    TxtSegundos->setAccessibleName(u"Seconds"_s);
     for (TextBox* box : timeBoxes()) {
         box->setMaxLength(2);
         box->setAlignment(Qt::AlignCenter);
     }
     LabExpandir = screen.add<Label>(u"LabExpandir"_s, {9600, 2595, 270, 630});
     LabExpandir->dress(Role::LabelButton, u"<>"_s, type::XS, true, Qt::AlignCenter);
+    LabExpandir->setAccessibleName(u"Reduce-Extend"_s);
     BtnAMList = screen.add<Button>(u"BtnAMList"_s, {4755, 2925, 4830, 300});
     BtnAMList->setType(type::G, true);
     BtnAMList->setText(store::EtiAnadir);
     BtnAMList->setToolTipText(u"Add Movement. Modify-Remove (Double Click) Movement"_s);
     MSFlexGrid1 = screen.add<FlexGrid>(u"MSFlexGrid1"_s, {4740, 3240, 5130, 1830});
     MSFlexGrid1->setType(type::G, false);
+    MSFlexGrid1->setAccessibleName(u"Movements"_s);
     MSFlexGrid1->setRowHeightMin(300);
     MSFlexGrid1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     chainTabStops({screen.findChild<QWidget*>(u"TxtSubtitulo"_s), TxtMovimiento, TxtHoras, TxtMinutos, TxtSegundos,

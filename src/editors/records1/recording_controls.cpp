@@ -12,13 +12,19 @@ RecordingScreen::RecordingScreen(shell::Context& context, QWidget* parent, const
     for (const PartCaption& caption : partCaptions())
         addLabel({}, Role::Caption, caption.text.toString(), caption.rect, type::XS, false,
                  caption.left ? ToLeft : ToRight);
-    for (int part = 0; part < PartCount; ++part) addPart(part);
+    for (int part = 0; part < PartCount; ++part) {
+        addPart(part);
+        if (part == WorkPart) addMovements();
+    }
+    LabInterpreteNumeroInterprete = addLabel(u"LabInterpreteNumeroInterprete"_s, Role::Detail, {},
+                                             {7410, 4740, 450, 240}, type::S, false, Qt::AlignCenter);
+}
+
+void RecordingScreen::addMovements() {
     LabObraNumeroMovimientos = addLabel(u"LabObraNumeroMovimientos"_s, Role::Detail, {}, {6090, 1200, 450, 240},
                                         type::S, false, Qt::AlignCenter);
     LabObraTotal =
         addLabel(u"LabObraTotal"_s, Role::Detail, {}, {8895, 1200, 1110, 240}, type::S, false, Qt::AlignCenter);
-    LabInterpreteNumeroInterprete = addLabel(u"LabInterpreteNumeroInterprete"_s, Role::Detail, {},
-                                             {7410, 4740, 450, 240}, type::S, false, Qt::AlignCenter);
     FlexMovimientos = add<FlexGrid>(u"FlexMovimientos"_s, {5220, 1470, 4785, 855});
     FlexMovimientos->setType(type::G, false);
     FlexMovimientos->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -45,13 +51,18 @@ void RecordingScreen::addPart(int part) {
     placeholder->setVisible(false);
     auto* remove = addButton(u"BtnEliIma"_s + suffix, u"Remove"_s, {}, {info.left + 570, info.top + 1620, 795, 255});
     remove->setType(type::S, true);
+    remove->setAccessibleName(u"Remove "_s + info.word.toString());
     remove->setVisible(false);
     remove->Click = [this, part] { BtnEliIma_Click(part); };
     BtnEliIma[std::size_t(part)] = remove;
-    for (const PartLabel& label : info.labels)
-        partLabels_[std::size_t(part)].push_back(addLabel(label.control.toString(), Role::Detail, {}, label.rect,
-                                                          type::S, label.bold,
-                                                          label.centred ? Qt::Alignment(Qt::AlignCenter) : ToLeft));
+    for (const PartLabel& label : info.labels) {
+        Label* shown = addLabel(label.control.toString(), Role::Detail, {}, label.rect, type::S, label.bold,
+                                label.centred ? Qt::Alignment(Qt::AlignCenter) : ToLeft);
+        const store::KindInfo& kind = store::info(info.kind);
+        const QStringView field = kind.fields[std::size_t(kind.indexOf(label.column))].listed;
+        shown->setAccessibleName(info.word.toString() + u", "_s + field.toString());
+        partLabels_[std::size_t(part)].push_back(shown);
+    }
     if (info.isGroup()) addGrid(part);
 }
 
@@ -59,6 +70,7 @@ void RecordingScreen::addGrid(int part) {
     const PartGroup& group = *partInfo(part).group;
     auto* grid = add<FlexGrid>(group.grid.toString(), group.rect);
     grid->setType(group.type, false);
+    grid->setAccessibleName(partInfo(part).word.toString());
     grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSlim(grid);
     if (group.twoLinesPitch) setTwoLines(grid, group.twoLinesPitch);

@@ -89,6 +89,7 @@ class RecordingScreen : public shell::Screen {
 
   private:
     void addPart(int part);
+    void addMovements();
     void addGrid(int part);
     void showMovements();
     QString rowText(int part);

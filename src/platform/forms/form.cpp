@@ -2,6 +2,7 @@
 
 #include "platform/forms/controls.h"
 #include "platform/forms/decoration.h"
+#include "platform/forms/spoken.h"
 
 namespace zv::forms {
 
@@ -10,6 +11,7 @@ Form::Form(QWidget* parent, const Scale& scale, const QString& name, int width, 
     setObjectName(name);
     setVisible(false);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    installSpokenLabels();
 }
 
 Form::~Form() = default;
@@ -51,6 +53,7 @@ void Form::Show() {
     if (!loaded_) {
         loaded_ = true;
         Form_Load();
+        nameControls(controls_);
     }
     show();
     raise();

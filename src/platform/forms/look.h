@@ -47,6 +47,7 @@ enum class Role {
     TextBox,     // QLineEdit, QPlainTextEdit
     Value,       // label that shows a number or a text in a box
     Detail,      // value label of the recording: weaker border
+    Figure,      // number in a table: no border
     Caption,     // label beside a box: navy, bold
     Heading,     // navy, bold
     Unit,        // soft

@@ -12,7 +12,7 @@ namespace zv::forms {
 /// may set others.
 ///
 /// Value, Detail    a box with border; Detail is the value label of the recording (weaker border, nearer text)
-/// Caption, Heading navy; Unit soft; None ink: without a ground unless autoFillBackground is set
+/// Caption, Heading navy; Unit soft; None, Figure ink: without a ground unless autoFillBackground is set
 /// Name             opaque ground, wrapped, from the top
 /// LabelButton      on the ground E9E9EC: a pill where it is wider than high, else a box; on another ground: a heading
 ///                  of the recording with a stronger border. Accent text under the mouse

@@ -1,5 +1,6 @@
 #include "platform/forms/placed.h"
 
+#include "platform/forms/spoken.h"
 #include <QHelpEvent>
 #include <QToolTip>
 
@@ -18,6 +19,15 @@ QString shownTip(const QString& tip) {
 
 } // namespace
 
+int WheelSteps::take(const QWheelEvent& event) {
+    constexpr int Step = 120;
+    const QPoint turn = event.angleDelta();
+    turned_ += std::abs(turn.x()) > std::abs(turn.y()) ? turn.x() : turn.y();
+    const int steps = turned_ / Step;
+    turned_ -= steps * Step;
+    return steps;
+}
+
 void Placed::place(const TwipsRect& rect) {
     rect_ = rect;
     if (scale_) widget()->setGeometry(scale_->rect(rect_));
@@ -32,6 +42,7 @@ void Placed::setType(int heightTwips, bool bold) {
 void Placed::setToolTipText(const QString& text) {
     tip_ = text;
     widget()->setToolTip(text);
+    describe(*this);
 }
 
 void Placed::applyScale(const Scale& scale) {
@@ -52,6 +63,8 @@ bool Placed::showTip(QEvent* event) {
 void chainTabStops(const std::vector<QWidget*>& widgets) {
     for (std::size_t i = 0; i + 1 < widgets.size(); ++i) QWidget::setTabOrder(widgets[i], widgets[i + 1]);
 }
+
+bool isEnterKey(const QKeyEvent& event) { return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter; }
 
 bool isFocusGain(Qt::FocusReason reason) {
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;

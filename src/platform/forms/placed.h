@@ -5,6 +5,7 @@
 #include "platform/forms/look.h"
 #include "platform/forms/scale.h"
 #include <QString>
+#include <QWheelEvent>
 #include <functional>
 #include <vector>
 
@@ -22,6 +23,16 @@ inline void fire(const Handler& handler) {
     const Handler running = handler;
     guarded(running);
 }
+
+/// Gathers the turns of a wheel: a fine one turns in parts of a step.
+class WheelSteps {
+  public:
+    /// Whole steps since the last whole one, positive away from the user.
+    int take(const QWheelEvent& event);
+
+  private:
+    int turned_ = 0; ///< since the last whole step, in eighths of a degree
+};
 
 class Placed {
   public:
@@ -53,6 +64,7 @@ class Placed {
     /// Drops the handlers: no logic runs any more.
     virtual void clearHandlers() = 0;
     virtual QWidget* widget() = 0;
+    const QWidget* widget() const { return const_cast<Placed*>(this)->widget(); }
 
   protected:
     const Scale* scale() const { return scale_; }
@@ -81,6 +93,9 @@ class Control : public Base, public Placed {
 
 /// Lets the tab key walk these widgets one after the other.
 void chainTabStops(const std::vector<QWidget*>& widgets);
+
+/// Either of the two keys that confirm.
+bool isEnterKey(const QKeyEvent& event);
 
 /// Whether a focus event means that the user or the logic moved to the control. The return of a window or the closing
 /// of a popup is no gain of focus.
