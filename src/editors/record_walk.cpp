@@ -84,6 +84,7 @@ void RecordWalk::addCounters(const WalkLayout& layout) {
 void RecordWalk::addButtons(const WalkLayout& layout) {
     BtnRegresar = screen_.addButton(u"BtnRegresar"_s, u"Back"_s, u"Back to \"Recording\""_s, layout.back);
     BtnRegresar->setType(layout.backType, true);
+    BtnRegresar->setFocusPolicy(Qt::ClickFocus); // no stop of the tab key while nobody sees it
     BtnModificar = screen_.addButton(u"BtnModificar"_s, u"Modify"_s, u"Modify the Record"_s, layout.modify);
     BtnEliminar = screen_.addButton(u"BtnEliminar"_s, u"Remove"_s, u"Remove the Record"_s, layout.remove);
     BtnGuardar = screen_.addButton(u"BtnGuardar"_s, u"Accept"_s, u"Accept Modify-Remove the Record"_s, layout.accept);

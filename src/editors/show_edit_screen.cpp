@@ -94,6 +94,7 @@ void ShowEditScreen::revealBack() {
     walk_.BtnRegresar->setLeft(3390);
     walk_.BtnRegresar->setTop(7230);
     walk_.BtnRegresar->raise();
+    walk_.BtnRegresar->setFocusPolicy(Qt::StrongFocus);
 }
 
 void ShowEditScreen::Form_Unload() {

@@ -32,6 +32,7 @@ FormPresentacion::FormPresentacion(shell::Context& context, QWidget* parent, con
     enter->setToolTipText(u"     Enter     "_s);
     enter->setCursor(Qt::PointingHandCursor);
     enter->Click = [this] { LabContinuar_Click(); };
+    enter->setFocus();
 }
 
 void FormPresentacion::LabContinuar_Click() {

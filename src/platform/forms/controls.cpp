@@ -58,11 +58,26 @@ void Label::mouseDoubleClickEvent(QMouseEvent* event) {
         pressed_ = true; // two quick clicks are two clicks
 }
 
+void Label::keyPressEvent(QKeyEvent* event) {
+    const bool presses = event->key() == Qt::Key_Space || isEnterKey(*event);
+    if (roleOf(this) != Role::Button || !presses)
+        QLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        fire(Click);
+}
+
 Button::Button(QWidget* parent) : Control(parent) {
     setRole(this, Role::Button);
     setAutoDefault(false);
     setType(type::M, true);
     connect(this, &QPushButton::clicked, this, [this] { fire(Click); });
+}
+
+void Button::keyPressEvent(QKeyEvent* event) {
+    if (!isEnterKey(*event))
+        QPushButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 Frame::Frame(QWidget* parent) : Control(parent) { setRole(this, Role::Frame); }
@@ -223,6 +238,11 @@ void ScrollBar::setMin(int min) { setMinimum(toInteger(min)); }
 
 void ScrollBar::setMax(int max) { setMaximum(toInteger(max)); }
 
+void ScrollBar::wheelEvent(QWheelEvent* event) {
+    event->accept();
+    QScrollBar::setValue(value() - wheel_.take(*event) * singleStep());
+}
+
 ProgressBar::ProgressBar(QWidget* parent) : Control(parent) {
     setRole(this, Role::Progress);
     setTextVisible(false);
@@ -248,6 +268,7 @@ TabControl::TabControl(QWidget* parent) : Control(parent) {
     setUsesScrollButtons(false);
     setElideMode(Qt::ElideNone);
     setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus); // the toolkit's own takes the focus from the tab key only
     connect(this, &QTabBar::currentChanged, this, [this] {
         if (!filling_) fire(Click);
     });

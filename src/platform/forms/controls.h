@@ -14,7 +14,7 @@
 
 namespace zv::forms {
 
-/// A label: caption, value, heading, or something to click.
+/// A label: caption, value, heading, or something to click. One that is drawn as a button takes the focus and its keys.
 class Label : public Control<LookLabel> {
   public:
     explicit Label(QWidget* parent);
@@ -34,6 +34,7 @@ class Label : public Control<LookLabel> {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     QString caption_;
@@ -45,11 +46,15 @@ inline Label* dress(Label* label, Role role, const QString& text, int typeTwips,
     return label;
 }
 
+/// A button. Enter presses it like the space bar, once for each time the key goes down.
 class Button : public Control<QPushButton> {
   public:
     explicit Button(QWidget* parent);
     Handler Click;
     void clearHandlers() override { Click = nullptr; }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 class Frame : public Control<LookFrame> {
@@ -134,7 +139,7 @@ class CheckList : public Control<QListWidget> {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 };
 
-/// A bar with 16-bit bounds.
+/// A bar with 16-bit bounds. A turn of the wheel goes one small step, towards the user goes on.
 class ScrollBar : public Control<QScrollBar> {
   public:
     explicit ScrollBar(QWidget* parent);
@@ -154,6 +159,12 @@ class ScrollBar : public Control<QScrollBar> {
     void setMin(int min);
     void setMax(int max);
     void clearHandlers() override { Change = nullptr; }
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    WheelSteps wheel_;
 };
 
 class ProgressBar : public Control<QProgressBar> {

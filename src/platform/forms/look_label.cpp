@@ -49,6 +49,7 @@ void LookLabel::setLook(Role role) {
         setCursor(Qt::PointingHandCursor);
         setAlignment(Qt::AlignCenter);
     }
+    setFocusPolicy(role == Role::Button ? Qt::StrongFocus : Qt::NoFocus);
     if (role == Role::Name) {
         setWordWrap(true);
         setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -86,6 +87,7 @@ void LookLabel::paintGround(QPainter& painter) const {
         draw::State state;
         state.enabled = isEnabled();
         state.hovered = hovered();
+        state.focused = state.enabled && hasFocus();
         draw::button(painter, rect(), state, scale);
         break;
     }
