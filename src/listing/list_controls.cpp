@@ -35,6 +35,8 @@ void ListScreen::addGrid() {
     Tabla->setDefaultColWidth(1500);
     Tabla->setColumnsResizable(true);
     Tabla->setNeverScrollsDown();
+    Tabla->setFirstColumnFixed();
+    Tabla->setAccessibleName(u"Listed Records"_s);
     Tabla->Wheel = [this](int steps) {
         if (!VScroll->isVisible() || !VScroll->isEnabled()) return;
         VScroll->setValue(std::clamp(VScroll->Value() - steps, VScroll->Min(), VScroll->Max()));
@@ -42,6 +44,7 @@ void ListScreen::addGrid() {
     for (int i = 0; i < PictureCount; ++i) {
         auto* picture = add<Picture>(u"Imagen%1"_s.arg(i), {195, 450, 285, 285});
         setRole(picture, Role::PageImage);
+        picture->setAccessibleName(Label16->Caption());
         picture->setVisible(false);
         Imagen.push_back(picture);
     }
@@ -49,6 +52,7 @@ void ListScreen::addGrid() {
     hidden->setVisible(false);
     VScroll = add<ScrollBar>(u"VScroll"_s, {9885, 150, 240, 6300});
     VScroll->setDirection(Qt::Vertical);
+    VScroll->setAccessibleName(u"Pages"_s);
     VScroll->setMin(1);
     VScroll->setMax(32767);
     VScroll->setSingleStep(1);

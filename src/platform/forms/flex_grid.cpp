@@ -1,5 +1,6 @@
 #include "platform/forms/flex_grid.h"
 
+#include "platform/forms/fixed_column.h"
 #include "platform/forms/look_style_draw.h"
 #include <QHeaderView>
 #include <QScrollBar>
@@ -115,6 +116,16 @@ void FlexGrid::setNeverScrollsDown() {
     });
 }
 
+void FlexGrid::setFirstColumnFixed() { fixedColumn_ = new FixedColumn(*this); }
+
+// The toolkit brings a column to the left end, which the fixed one covers.
+void FlexGrid::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    QTableWidget::scrollTo(index, hint);
+    if (!fixedColumn_ || index.column() <= 0) return;
+    const int hidden = fixedColumn_->width() - columnViewportPosition(index.column());
+    if (hidden > 0) horizontalScrollBar()->setValue(horizontalScrollBar()->value() - hidden);
+}
+
 void FlexGrid::setRow(int row) {
     if (row < 0 || row >= rows_) throw RuntimeError(30009, QStringLiteral("Invalid Row value"));
     row_ = row;
@@ -226,6 +237,7 @@ void FlexGrid::layoutSizes() {
         verticalHeader()->resizeSection(row - fixed_, scale()->px(top + height) - scale()->px(top));
         top += height;
     }
+    if (fixedColumn_) fixedColumn_->place();
     laying_ = false;
 }
 
@@ -251,12 +263,8 @@ void FlexGrid::wheelEvent(QWheelEvent* event) {
         QTableWidget::wheelEvent(event);
         return;
     }
-    // A fine wheel turns in parts of a step.
-    turned_ += event->angleDelta().y();
-    const int steps = turned_ / 120;
-    turned_ -= steps * 120;
     event->accept();
-    if (steps != 0) fire([handler = Wheel, steps] { handler(steps); });
+    if (const int steps = wheel_.take(*event); steps != 0) fire([handler = Wheel, steps] { handler(steps); });
 }
 
 } // namespace zv::forms

@@ -7,6 +7,8 @@
 
 namespace zv::forms {
 
+class FixedColumn;
+
 class FlexGrid : public Control<QTableWidget> {
   public:
     explicit FlexGrid(QWidget* parent);
@@ -26,6 +28,8 @@ class FlexGrid : public Control<QTableWidget> {
     void setColumnsResizable(bool resizable);
     /// The grid keeps its first row on top whatever stands below its edge.
     void setNeverScrollsDown();
+    /// The first column stays in its place while the horizontal bar moves the others under it.
+    void setFirstColumnFixed();
     void setDefaultColWidth(int twips) { defaultWidth_ = twips; }
     /// Height in twips of rows that the logic has not set.
     void setRowHeightMin(int twips);
@@ -55,6 +59,7 @@ class FlexGrid : public Control<QTableWidget> {
 
     void applyScale(const Scale& scale) override;
     void clearHandlers() override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
     /// Pixels of a length in twips.
     int px(int twips) const { return scale() ? scale()->px(twips) : twips / 15; }
 
@@ -63,6 +68,7 @@ class FlexGrid : public Control<QTableWidget> {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    friend class FixedColumn;
     bool isHeading(int row) const { return fixed_ == 1 && row == 0; }
     QTableWidgetItem* cell(int row, int col);
     void layoutSizes();
@@ -72,8 +78,9 @@ class FlexGrid : public Control<QTableWidget> {
     int row_ = 0, col_ = 0;
     int defaultWidth_ = 960, minHeight_ = 240;
     std::vector<int> widths_, heights_; ///< twips
-    int turned_ = 0;                    ///< of the wheel since the last whole step, in eighths of a degree
+    WheelSteps wheel_;
     bool laying_ = false;
+    FixedColumn* fixedColumn_ = nullptr;
 };
 
 } // namespace zv::forms
