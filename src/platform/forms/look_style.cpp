@@ -140,6 +140,8 @@ void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
                                    const QWidget* widget) const {
     if (control == CC_ComboBox) return drawComboBox(*option, *painter, widget);
     if (control == CC_ScrollBar) return drawScrollBar(*option, *painter, widget);
+    if (control == CC_SpinBox) return drawSpinBox(*option, *painter, widget);
+    if (control == CC_ToolButton) return drawToolButton(*option, *painter, widget);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -184,6 +186,13 @@ QRect LookStyle::subControlRect(ComplexControl control, const QStyleOptionComple
             return rect.adjusted(inset, line, -drop - line, -line);
         }
         if (part == SC_ComboBoxArrow) return {rect.right() + 1 - drop, rect.top(), drop, rect.height()};
+    }
+    if (control == CC_SpinBox) {
+        const QRect& r = option->rect;
+        const int line = scale_.hairline(), drop = scale_.px(300), upper = r.height() / 2;
+        if (part == SC_SpinBoxEditField) return r.adjusted(scale_.px(TextInset), line, -drop - line, -line);
+        if (part == SC_SpinBoxUp) return {r.right() + 1 - drop, r.top(), drop, upper};
+        if (part == SC_SpinBoxDown) return {r.right() + 1 - drop, r.top() + upper, drop, r.height() - upper};
     }
     return QProxyStyle::subControlRect(control, option, part, widget);
 }

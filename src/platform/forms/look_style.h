@@ -39,6 +39,8 @@ class LookStyle : public QProxyStyle {
 
   private:
     void drawComboBox(const QStyleOptionComplex&, QPainter&, const QWidget*) const;
+    void drawSpinBox(const QStyleOptionComplex&, QPainter&, const QWidget*) const;
+    void drawToolButton(const QStyleOptionComplex&, QPainter&, const QWidget*) const;
     void drawScrollBar(const QStyleOptionComplex&, QPainter&, const QWidget*) const;
     void drawItem(const QStyleOption&, QPainter&, const QWidget*) const;
     bool drawHeader(ControlElement, const QStyleOption&, QPainter&) const;

@@ -1,6 +1,8 @@
 // Scroll bars, the wide ones with end buttons and the slim ones without, and drop-down boxes.
 #include "platform/forms/look_style.h"
 #include "platform/forms/look_style_draw.h"
+#include <QAbstractSpinBox>
+#include <tuple>
 
 namespace zv::forms {
 
@@ -143,6 +145,38 @@ void LookStyle::drawComboBox(const QStyleOptionComplex& option, QPainter& painte
         painter.fillRect(QRect(face.left(), face.top(), line, face.height()), colour::Edge3);
     }
     draw::arrow(painter, QRectF(face), Qt::DownArrow, state.enabled ? colour::Navy : colour::Edge2, scale_.px(120));
+}
+
+void LookStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const {
+    const auto* box = qstyleoption_cast<const QStyleOptionSpinBox*>(&option);
+    if (!box) return;
+    const draw::State state = draw::stateOf(option, widget);
+    draw::field(painter, box->rect, box->palette.color(QPalette::Base), state, scale_);
+    const int gap = scale_.focusLine();
+    for (const auto& [part, step, arrow] :
+         {std::tuple(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Qt::UpArrow),
+          std::tuple(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow)}) {
+        const bool upper = part == SC_SpinBoxUp, steps = state.enabled && (box->stepEnabled & step);
+        const QRect face =
+            subControlRect(CC_SpinBox, box, part, widget).adjusted(0, upper ? gap : 0, -gap, upper ? 0 : -gap);
+        if (steps) draw::smallFace(painter, face, colour::Edge2, scale_.hairline(), scale_);
+        draw::arrow(painter, QRectF(face), arrow, steps ? colour::Navy : colour::Edge2, scale_.px(90));
+    }
+}
+
+// A tool button is bare until it is meant.
+void LookStyle::drawToolButton(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(&option);
+    if (!button) return;
+    const draw::State state = draw::stateOf(option, widget);
+    const bool bare = button->state & State_AutoRaise;
+    if (!bare || state.hovered || state.pressed || state.focused) draw::button(painter, button->rect, state, scale_);
+    QStyleOptionToolButton label = *button;
+    label.rect = subControlRect(CC_ToolButton, button, SC_ToolButton, widget);
+    drawControl(CE_ToolButtonLabel, &label, &painter, widget);
+    if (!(button->subControls & SC_ToolButtonMenu)) return;
+    const QRect menu = subControlRect(CC_ToolButton, button, SC_ToolButtonMenu, widget);
+    draw::arrow(painter, QRectF(menu), Qt::DownArrow, state.enabled ? colour::Navy : colour::Edge2, scale_.px(90));
 }
 
 } // namespace zv::forms
