@@ -138,6 +138,27 @@ TEST_F(Lists, BarsHoldSixteenBits) {
     EXPECT_EQ(bar->Value(), 32766);
 }
 
+TEST_F(Lists, BarsGoOneStepForEachTurnOfTheWheel) {
+    auto* bar = shown<ScrollBar>(u"HScroll"_s, {240, 240, 2700, 330});
+    for (const Qt::Orientation direction : {Qt::Horizontal, Qt::Vertical}) {
+        bar->setDirection(direction);
+        bar->setMin(1);
+        bar->setMax(20);
+        bar->setPageStep(5);
+        bar->setValue(10);
+        bar->Change = counted();
+        EXPECT_EQ(firedBy([&] { EXPECT_TRUE(wheel(*bar, -120)); }), 1);
+        EXPECT_EQ(bar->Value(), 11) << "towards the user goes on";
+        wheel(*bar, 60);
+        EXPECT_EQ(bar->Value(), 11) << "half a step";
+        wheel(*bar, 60);
+        EXPECT_EQ(bar->Value(), 10);
+        wheel(*bar, 120 * 30);
+        EXPECT_EQ(bar->Value(), 1);
+        bar->Change = nullptr;
+    }
+}
+
 TEST_F(Lists, ProgressOfNothingIsTaken) {
     auto* bar = shown<ProgressBar>(u"ProgressBar"_s, {240, 240, 1215, 270});
     bar->setMax(0);

@@ -127,6 +127,20 @@ TEST(Dialogs, AskInTheButtonsOfTheStyle) {
     }
 }
 
+TEST(Dialogs, TakeTheFirstAnswerByEnterAndTheOthersByTheArrows) {
+    QtMessageBoxes boxes;
+    const auto answered = [&](int style, const QList<Qt::Key>& keys) {
+        return inFront<QMessageBox>([&] { return boxes.MsgBox(u"?"_s, style); },
+                                    [&](QMessageBox& shown) {
+                                        for (const Qt::Key key : keys)
+                                            QTest::keyClick(shown.focusWidget() ? shown.focusWidget() : &shown, key);
+                                    });
+    };
+    EXPECT_EQ(answered(box::YesNo, {Qt::Key_Return}), box::Yes);
+    EXPECT_EQ(answered(box::YesNo, {Qt::Key_Tab, Qt::Key_Enter}), box::No);
+    EXPECT_EQ(answered(box::OkCancel, {Qt::Key_Right, Qt::Key_Space}), box::Cancel);
+}
+
 TEST(Dialogs, LetAFileBeChosen) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.jpg"_s);
