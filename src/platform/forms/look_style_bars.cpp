@@ -122,7 +122,12 @@ void LookStyle::drawScrollBar(const QStyleOptionComplex& option, QPainter& paint
     draw::box(painter, option.rect, Track, state.enabled ? colour::Edge2 : colour::Edge3, line, scale_.px(30));
     drawEnd(painter, bar.part(0, bar.button), bar, true, part(SC_ScrollBarSubLine), scale_);
     drawEnd(painter, bar.part(bar.length - bar.button, bar.button), bar, false, part(SC_ScrollBarAddLine), scale_);
-    if (!bar.movable()) return;
+    if (!bar.movable()) {
+        // Without a thumb the whole bar is marked.
+        if (state.focused)
+            draw::box(painter, option.rect, Qt::NoBrush, colour::Accent, scale_.focusLine(), scale_.px(30));
+        return;
+    }
     const QRect rect = bar.part(bar.start, bar.thumb);
     const bool marked = state.focused || thumb.hovered;
     draw::smallFace(painter, rect, marked ? colour::Accent : colour::Edge, state.focused ? scale_.focusLine() : line,
