@@ -80,6 +80,9 @@ TEST_F(Names, AreThoseThatASeeingUserReads) {
     EXPECT_EQ(nameOf(u"TxtNotas"_s), u"Notes"_s);
     EXPECT_EQ(nameOf(u"BtnGuardar"_s), u"Save"_s);
     EXPECT_EQ(spoken(u"BtnGuardar"_s).text(QAccessible::Description), u"Save the Record"_s);
+    const auto bonds = spoken(u"TxtAutor"_s).relations(QAccessible::Label);
+    ASSERT_EQ(bonds.size(), 1);
+    EXPECT_EQ(bonds.front().first->text(QAccessible::Name), u"Author"_s) << "Its caption is its label.";
     hands->go(8);
     EXPECT_EQ(nameOf(u"ComboCampo"_s), u"Choose Field"_s);
     EXPECT_EQ(nameOf(u"ComboCampoOrden"_s), u"Order"_s);

@@ -50,16 +50,20 @@ class Names {
 
     QString of(const Placed& control) const {
         const QString tip = control.ToolTipText().simplified();
-        const bool picture = dynamic_cast<const Picture*>(&control);
-        if (picture && !tip.isEmpty()) return tip;
-        const Placed* before = leftOf(control);
-        if (before && isCaption(*before)) return captioned(*before, control);
-        if (before)
+        if (dynamic_cast<const Picture*>(&control) && !tip.isEmpty()) return tip;
+        if (const Placed* before = leftOf(control); before && !isCaption(*before))
             if (const QString shared = inRowOf(control); !shared.isEmpty()) return shared;
-        if (picture || dynamic_cast<const ScrollBar*>(&control))
-            if (const Placed* caption = below(control)) return words(*caption);
-        const Placed* caption = above(control);
-        return caption ? words(*caption) : tip;
+        const Placed* caption = captionOf(control);
+        return caption ? captioned(*caption, control) : tip;
+    }
+
+    /// The caption at the left of a control, or above it; of a picture or a bar also the one below.
+    Placed* captionOf(const Placed& control) const {
+        Placed* before = leftOf(control);
+        if (before && isCaption(*before)) return before;
+        const bool may = dynamic_cast<const Picture*>(&control) || dynamic_cast<const ScrollBar*>(&control);
+        Placed* underneath = may ? below(control) : nullptr;
+        return underneath ? underneath : above(control);
     }
 
   private:
@@ -85,19 +89,19 @@ class Names {
 
     /// The nearest to the left of a control that fits.
     template <class Fits>
-    const Placed* nearestLeft(const Placed& control, Fits&& fits) const {
-        const Placed* nearest = nullptr;
-        for (const Placed* other : controls_) {
+    Placed* nearestLeft(const Placed& control, Fits&& fits) const {
+        Placed* nearest = nullptr;
+        for (Placed* other : controls_) {
             if (!beside(*other, control) || right(*other) > control.Left() + EdgeSlack || !fits(*other)) continue;
             if (!nearest || right(*other) > right(*nearest)) nearest = other;
         }
         return nearest;
     }
-    const Placed* likeLeftOf(const Placed& control) const {
+    Placed* likeLeftOf(const Placed& control) const {
         return nearestLeft(control, [&](const Placed& other) { return leftAndLike(other, control); });
     }
     /// A caption or a box of its like; units, pictures and other things between do not count.
-    const Placed* leftOf(const Placed& control) const {
+    Placed* leftOf(const Placed& control) const {
         return nearestLeft(control, [&](const Placed& other) {
             return isCaption(other) ? leads(other, control) : leftAndLike(other, control);
         });
@@ -120,17 +124,17 @@ class Names {
         return words(*caption) + u' ' + QString::number(number);
     }
 
-    const Placed* above(const Placed& control) const {
+    Placed* above(const Placed& control) const {
         return captionWithin(control, CaptionGap, [&](const Placed& caption) { return control.Top() - foot(caption); });
     }
-    const Placed* below(const Placed& control) const {
+    Placed* below(const Placed& control) const {
         return captionWithin(control, FootGap, [&](const Placed& caption) { return caption.Top() - foot(control); });
     }
     /// The nearest caption in the control's column whose gap to it is none or small.
     template <class Gap>
-    const Placed* captionWithin(const Placed& control, int most, Gap&& gap) const {
-        const Placed* nearest = nullptr;
-        for (const Placed* other : controls_) {
+    Placed* captionWithin(const Placed& control, int most, Gap&& gap) const {
+        Placed* nearest = nullptr;
+        for (Placed* other : controls_) {
             if (!beside(*other, control) || !isCaption(*other) || !inOneColumn(*other, control)) continue;
             if (gap(*other) < -EdgeSlack || gap(*other) > most) continue;
             if (!nearest || gap(*other) < gap(*nearest)) nearest = other;
@@ -170,7 +174,12 @@ void nameControls(const std::vector<Placed*>& controls) {
     for (Placed* control : controls) {
         if (const auto* frame = dynamic_cast<const Frame*>(control))
             control->widget()->setAccessibleName(frameName(*frame));
-        if (needsCaption(*control)) control->widget()->setAccessibleName(names.of(*control));
+        if (needsCaption(*control)) {
+            control->widget()->setAccessibleName(names.of(*control));
+            // Assistive tools know a caption by this bond, too.
+            if (auto* caption = dynamic_cast<Label*>(names.captionOf(*control)); caption && !caption->buddy())
+                caption->setBuddy(control->widget());
+        }
         describe(*control);
     }
 }
