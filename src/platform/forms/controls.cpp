@@ -306,7 +306,7 @@ void TabControl::paintEvent(QPaintEvent*) {
         tab.caption = tabText(i);
         tab.chosen = i == currentIndex();
         tab.hovered = i == hovered_ && isEnabled();
-        tab.focused = tab.chosen && hasFocus();
+        tab.focused = tab.chosen && hasFocus() && byKeys_;
         tab.enabled = isEnabled();
         paintTab(painter, tab, *scale());
     }
@@ -319,6 +319,26 @@ void TabControl::mouseMoveEvent(QMouseEvent* event) {
         update();
     }
     QTabBar::mouseMoveEvent(event);
+}
+
+void TabControl::setByKeys(bool byKeys) {
+    byKeys_ = byKeys;
+    update();
+}
+
+void TabControl::mousePressEvent(QMouseEvent* event) {
+    setByKeys(false);
+    QTabBar::mousePressEvent(event);
+}
+
+void TabControl::keyPressEvent(QKeyEvent* event) {
+    setByKeys(true);
+    QTabBar::keyPressEvent(event);
+}
+
+void TabControl::focusInEvent(QFocusEvent* event) {
+    QTabBar::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) setByKeys(true);
 }
 
 void TabControl::leaveEvent(QEvent* event) {

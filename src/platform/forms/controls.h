@@ -176,7 +176,8 @@ class ProgressBar : public Control<QProgressBar> {
     void clearHandlers() override {}
 };
 
-/// A row of tabs. The tabs stand where the logic says, in twips.
+/// A row of tabs. The tabs stand where the logic says, in twips. A click gives the row the focus; its mark is drawn
+/// once the keyboard is at work there.
 class TabControl : public Control<QTabBar> {
   public:
     /// pitches: width of each tab with its gap to the next, in twips.
@@ -196,9 +197,15 @@ class TabControl : public Control<QTabBar> {
     QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
   private:
+    void setByKeys(bool byKeys);
+
+    bool byKeys_ = false;    ///< the focus was brought or used by the keyboard
     std::vector<int> edges_; ///< left edge of each tab in twips, and the end of the last
     int hovered_ = -1;
     bool filling_ = false;

@@ -77,6 +77,15 @@ TEST_F(States, AreSeenOnControlsOfEachKind) {
     auto& tabs = control<TabControl>({4740, 240, 3000, 405});
     tabs.setTabs({{u"One"_s, 1500}, {u"Two"_s, 1500}}, 0);
     tellsItsStates(tabs, "tabs");
+    // A click gives them the focus without its mark, which comes with the first key.
+    tabs.setEnabled(true);
+    form->findChild<Button*>(u"Elsewhere"_s)->setFocus();
+    const QImage without = shot(tabs);
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(0).center());
+    EXPECT_TRUE(tabs.hasFocus());
+    EXPECT_EQ(shot(tabs), without);
+    QTest::keyClick(&tabs, Qt::Key_Left);
+    EXPECT_NE(shot(tabs), without);
     auto& enter = control<Label>({4740, 240, 2100, 480});
     enter.dress(Role::Button, u"Enter"_s, type::L, true, Qt::AlignCenter);
     tellsItsStates(enter, "label that is a button");
