@@ -84,6 +84,7 @@ void RecordingScreen::addNotes(int left, int width) {
     addLabel({}, Role::Heading, u"Notes"_s, {left, 3330, width, 240}, type::S, true, ToLeft);
     TxtNotas = add<Memo>(u"TxtNotas"_s, {left, 3600, width, 1935});
     TxtNotas->setType(type::G, false);
+    chainTabStops({BtnEliIma[FormatPart], TxtNotas}); // behind the parts, whatever was added in between
 }
 
 void RecordingScreen::paintBehind(QPainter& painter) {
