@@ -30,6 +30,7 @@ class ListScreen : public shell::Screen, protected PrintRecords {
     virtual bool isNumber(int item) const;
     QString picturePath() override;
     QStringList values() override;
+    int position() override { return Data().Recordset().AbsolutePosition(); }
     void moveTo(int position) override { Data().Recordset().setAbsolutePosition(position); }
     /// Whose page and zoom a new list starts anew.
     virtual store::ListMemory& listedMemory() { return memory().MemoLis; }

@@ -178,6 +178,27 @@ void Document::printPicture(const QString& path) {
     state_.PosicionYImagen = toLong(printer_.CurrentY + ImagenTmp.Height);
 }
 
+/// Prints for a look: afterwards the picture and the current record are those of before.
+void rehearse(PrintJob job, Printer& printer, const printing::Progress& progress, const PrintFailure& failure) {
+    PrintPicture picture = *job.ImagenTmp;
+    job.ImagenTmp = &picture;
+    const int count = job.records->RecordCount();
+    job.progressMax = [](int) {};
+    job.progress = [&](int value) {
+        if (value > 0) progress(value, count);
+    };
+    const auto back = [&records = *job.records, before = job.records->position()] {
+        if (before >= 0 && before < records.RecordCount()) records.moveTo(before);
+    };
+    try {
+        printDocument(printer, job, failure);
+    } catch (...) {
+        back();
+        throw;
+    }
+    back();
+}
+
 } // namespace
 
 int PrintJob::SelCount() const {
@@ -194,12 +215,18 @@ void printSelection(const PrintJob& job, printing::PrinterDialogs& dialogs, Mess
     const PrintFailure failure = [&](int number) {
         boxes.MsgBox(MensaProducidoError + QString::number(number), box::Critical);
     };
+    PrintJob told = job;
+    told.progress = [&](int value) {
+        job.progress(value);
+        dialogs.showProgress(value, job.records->RecordCount());
+    };
     std::unique_ptr<Printer> printer;
     try {
-        printer = dialogs.ShowPrinter();
-        printDocument(*printer, job, failure);
+        printer = dialogs.ShowPrinter(
+            [&](Printer& preview, const printing::Progress& progress) { rehearse(job, preview, progress, failure); });
+        printDocument(*printer, told, failure);
         printer->EndDoc();
-        job.progress(0);
+        told.progress(0);
     } catch (const RuntimeError& error) {
         if (error.number() == printing::PrinterCancel) return;
         try {
@@ -207,7 +234,7 @@ void printSelection(const PrintJob& job, printing::PrinterDialogs& dialogs, Mess
         } catch (const RuntimeError&) {
             // The error that is shown is the one that came first.
         }
-        job.progress(0);
+        told.progress(0);
         failure(error.number());
     }
 }

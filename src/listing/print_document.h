@@ -35,6 +35,8 @@ class PrintRecords {
   public:
     virtual ~PrintRecords() = default;
     virtual int RecordCount() = 0;
+    /// The current record, from 0; below 0 for none.
+    virtual int position() = 0;
     /// Moves to a record, from 0.
     virtual void moveTo(int position) = 0;
     /// Path of the current record's picture, "" for none. Asked once for each record.
@@ -72,8 +74,9 @@ struct PrintJob {
 /// out.
 void printDocument(printing::Printer& printer, const PrintJob& job, const PrintFailure& failure);
 
-/// The whole of the Print button: nothing without a tick; the printer dialog, whose Cancel leaves silently; the
-/// document; and after any other error a critical box with that text and the error's number.
+/// The whole of the Print button: nothing without a tick; the printer dialog, whose Cancel leaves silently and which
+/// may have the document printed for a look at it, at the cost of no state; the document; and after any other error a
+/// critical box with that text and the error's number.
 void printSelection(const PrintJob& job, printing::PrinterDialogs& dialogs, MessageBoxes& boxes,
                     const QString& MensaProducidoError);
 

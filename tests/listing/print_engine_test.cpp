@@ -152,6 +152,7 @@ class Rows : public PrintRecords {
     std::function<void(int)> atValues;
 
     int RecordCount() override { return static_cast<int>(rows.size()); }
+    int position() override { return at_; }
     void moveTo(int position) override { at_ = position; }
     QString picturePath() override { return row().path; }
     bool loadPicture(const QString& path, int side, PrintPicture& picture) override {
@@ -185,9 +186,11 @@ class Boxes : public MessageBoxes {
 class List : public ::testing::Test {
   protected:
     List() {
-        dialogs.printer.scaleWidth = 8000;
-        dialogs.printer.scaleHeight = 6000;
-        dialogs.printer.width = 8400;
+        for (auto* printer : {&dialogs.printer, &dialogs.preview}) {
+            printer->scaleWidth = 8000;
+            printer->scaleHeight = 6000;
+            printer->width = 8400;
+        }
         job.LabBaseDatos = u"Composer"_s;
         job.ContSel = 3;
         job.ContFil = 1;
@@ -273,6 +276,41 @@ TEST_F(List, AsksOnlyWithATickAndLeavesSilentlyOnCancel) {
     print();
     EXPECT_EQ(dialogs.shown, 1);
     EXPECT_TRUE(operations().isEmpty() && boxes.shown.isEmpty() && progress.isEmpty());
+}
+
+// The room for a block is judged by the picture before, the first by that of the print before.
+TEST_F(List, IsTheSameInThePreviewWhichLeavesNoTrace) {
+    rows.rows = {{u"a.jpg"_s, 600, 1191, {u"Ana"_s}}, {QString(), 0, 0, {u"Eva"_s}}, {u"b.jpg"_s, 1191, 100, {}}};
+    picture.Width = 700;
+    picture.Height = 3000;
+    rows.moveTo(1);
+    dialogs.looks = true;
+    dialogs.error = printing::PrinterCancel;
+    print();
+    EXPECT_EQ(picture.Width, 700);
+    EXPECT_EQ(picture.Height, 3000);
+    EXPECT_EQ(rows.position(), 1);
+    EXPECT_TRUE(operations().isEmpty() && progress.isEmpty() && dialogs.progress.isEmpty() && boxes.shown.isEmpty());
+    const QStringList seen = dialogs.preview.operations();
+    EXPECT_TRUE(seen.contains(u"page 2"_s));
+
+    dialogs.error = 0;
+    print();
+    EXPECT_EQ(joined(operations()), joined(seen));
+    EXPECT_EQ(joined(dialogs.preview.operations()), joined(seen + seen));
+    EXPECT_EQ(dialogs.progress, QStringList({u"0 of 3"_s, u"1 of 3"_s, u"2 of 3"_s, u"3 of 3"_s, u"0 of 3"_s}));
+}
+
+TEST_F(List, TellsAnErrorOfThePreviewAndPrintsNothing) {
+    rows.rows.resize(3);
+    rows.atValues = [](int row) {
+        if (row == 2) throw RuntimeError(3021);
+    };
+    dialogs.looks = true;
+    print();
+    EXPECT_TRUE(operations().isEmpty());
+    EXPECT_EQ(rows.position(), 0);
+    EXPECT_EQ(boxes.shown, QStringList(u"16 Has occurred Error: 3021"_s));
 }
 
 TEST_F(List, EndsTheDocumentAfterAnError) {

@@ -70,7 +70,16 @@ TEST_F(PrintButton, LeavesTheGridOnItsPage) {
     list({u"Surname"_s});
     pages().setValue(2);
     const QString shown = hands->dump(), page = hands->page();
+    printers.looks = true;
+    printers.error = 32755;
+    const auto& rows = program->store.Data(m.kind).Recordset();
+    const int at = rows.AbsolutePosition();
     print();
+    EXPECT_EQ(rows.AbsolutePosition(), at) << "the preview moves nothing";
+    EXPECT_EQ(hands->dump(), shown);
+    printers.error = 0;
+    print();
+    EXPECT_EQ(printers.preview.operations(), operations() + operations());
     EXPECT_EQ(operations().last(), u"end"_s);
     EXPECT_TRUE(operations().contains(u"text 1804 2040 9 8388608 '/ FIELD / Historical /'"_s));
     EXPECT_EQ(hands->dump(), shown);

@@ -27,8 +27,8 @@ class TourPrinters : public printing::PrinterDialogs {
   public:
     QString path;
 
-    std::unique_ptr<printing::Printer> ShowPrinter() override {
-        return printing::PdfPrinterDialogs(path).ShowPrinter();
+    std::unique_ptr<printing::Printer> ShowPrinter(const printing::Document& document) override {
+        return printing::PdfPrinterDialogs(path).ShowPrinter(document);
     }
 };
 

@@ -3,9 +3,12 @@
 
 #include <QImage>
 #include <QString>
+#include <functional>
 #include <memory>
 
 namespace zv::printing {
+
+inline constexpr double TwipsPerPoint = 20;
 
 /// Numbers of the run-time errors of printing: the device failed, the dialog was left by Cancel.
 inline constexpr int PrinterError = 482;
@@ -53,12 +56,21 @@ class Printer {
     virtual void PaintPicture(const QImage& picture, double x, double y, double width, double height) = 0;
 };
 
+/// Told how many of the parts of a document are done; from 1.
+using Progress = std::function<void(int done, int of)>;
+
+/// Prints a document into any printer, as often as wanted: the same pages every time. It leaves no trace elsewhere.
+using Document = std::function<void(Printer& printer, const Progress& progress)>;
+
 /// The printer dialog behind an interface.
 class PrinterDialogs {
   public:
     virtual ~PrinterDialogs() = default;
-    /// Lets a printer be chosen and gives it. Error 32755 on cancel, 482 for a printer that can't be used.
-    virtual std::unique_ptr<Printer> ShowPrinter() = 0;
+    /// Lets a printer be chosen and gives it; the document can be looked at before. Error 32755 on cancel, 482 for a
+    /// printer that can't be used, and any error of the document while it is looked at.
+    virtual std::unique_ptr<Printer> ShowPrinter(const Document& document) = 0;
+    /// Told during the print how many of its parts are done, and 0 when it has ended.
+    virtual void showProgress(int /*done*/, int /*of*/) {}
 };
 
 } // namespace zv::printing

@@ -1,17 +1,23 @@
 #include "platform/printing/printer_dialog.h"
 
 #include "platform/base/runtime_error.h"
+#include "platform/printing/printer_box.h"
+#include "platform/printing/progress_window.h"
 #include "platform/printing/qt_printer.h"
 
 #include <QApplication>
-#include <QPrintDialog>
 #include <QPrinter>
 
 using namespace Qt::StringLiterals;
 
 namespace zv::printing {
 
-std::unique_ptr<Printer> QtPrinterDialogs::ShowPrinter() {
+QtPrinterDialogs::QtPrinterDialogs(QWidget* parent) : parent_(parent) {}
+QtPrinterDialogs::~QtPrinterDialogs() = default;
+
+QWidget* QtPrinterDialogs::window() const { return parent_ ? parent_.data() : QApplication::activeWindow(); }
+
+std::unique_ptr<Printer> QtPrinterDialogs::ShowPrinter(const Document& document) {
     if (!chosen_) {
         chosen_ = std::make_shared<QPrinter>(QPrinter::HighResolution);
         chosen_->setDocName(u"Zarvelia"_s);
@@ -19,11 +25,10 @@ std::unique_ptr<Printer> QtPrinterDialogs::ShowPrinter() {
     }
     chosen_->setCopyCount(1);
 
-    QPrintDialog dialog(chosen_.get(), parent_ ? parent_.data() : QApplication::activeWindow());
-    dialog.setObjectName(u"DialogoImpresora"_s);
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
-                      QAbstractPrintDialog::PrintCollateCopies);
-    if (dialog.exec() != QDialog::Accepted) throw RuntimeError(PrinterCancel);
+    PrinterBox box(chosen_, document, window());
+    const bool accepted = box.exec() == QDialog::Accepted;
+    if (box.error() != 0) throw RuntimeError(box.error());
+    if (!accepted) throw RuntimeError(PrinterCancel);
 
     if (chosen_->outputFormat() == QPrinter::PdfFormat && !chosen_->outputFileName().isEmpty())
         return pdfPrinter(chosen_->outputFileName(), *chosen_);
@@ -31,6 +36,15 @@ std::unique_ptr<Printer> QtPrinterDialogs::ShowPrinter() {
     return std::make_unique<QtPrinter>(chosen_);
 }
 
-std::unique_ptr<Printer> PdfPrinterDialogs::ShowPrinter() { return pdfPrinter(path_); }
+void QtPrinterDialogs::showProgress(int done, int of) {
+    if (done == 0) {
+        progress_.reset();
+        return;
+    }
+    if (!progress_) progress_ = std::make_unique<ProgressWindow>(window());
+    progress_->show(done, of);
+}
+
+std::unique_ptr<Printer> PdfPrinterDialogs::ShowPrinter(const Document&) { return pdfPrinter(path_); }
 
 } // namespace zv::printing

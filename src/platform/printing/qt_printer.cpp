@@ -15,7 +15,7 @@ namespace zv::printing {
 
 namespace {
 
-constexpr double TwipsPerPoint = 20, TwipsPerInch = 1440;
+constexpr double TwipsPerInch = 1440;
 /// Pictures finer than this are made smaller: more is not seen on paper and only swells the document.
 constexpr double PictureDotsPerInch = 300;
 /// Height of a line at least, in sizes of the font: that of Comic Sans MS, so that a list breaks into the same pages
@@ -96,9 +96,7 @@ void QtPrinter::beginDocument() {
     if (!painter_.begin(device_.get())) throw RuntimeError(PrinterError);
     checkDevice();
     painter_.scale(device_->logicalDpiX() / TwipsPerInch, device_->logicalDpiY() / TwipsPerInch);
-    painter_.setRenderHint(QPainter::SmoothPixmapTransform);
-    // Records begin with their number: a line that happens to begin with an Arabic word reads like its neighbours.
-    painter_.setLayoutDirection(Qt::LeftToRight);
+    prepare(painter_);
     painter_.setFont(font_);
     painter_.setPen(color_);
 }
@@ -108,18 +106,29 @@ void QtPrinter::beginPage() {
     checkDevice();
 }
 
-void QtPrinter::drawText(double x, double y, const QString& line) {
-    const double above = (lineHeight() - metrics_.ascent() - metrics_.descent()) / 2;
-    painter_.drawText(QPointF(x, y + above + metrics_.ascent()), line);
+void QtPrinter::prepare(QPainter& painter) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    // Records begin with their number: a line that happens to begin with an Arabic word reads like its neighbours.
+    painter.setLayoutDirection(Qt::LeftToRight);
 }
 
-void QtPrinter::drawPicture(const QImage& picture, double x, double y, double width, double height) {
+QPointF QtPrinter::baseline(double x, double y) const {
+    const double above = (lineHeight() - metrics_.ascent() - metrics_.descent()) / 2;
+    return {x, y + above + metrics_.ascent()};
+}
+
+QImage QtPrinter::printedPicture(const QImage& picture, double width, double height) {
     const double dots = PictureDotsPerInch / TwipsPerInch;
     const QSize enough(std::max(1, static_cast<int>(std::ceil(width * dots))),
                        std::max(1, static_cast<int>(std::ceil(height * dots))));
     const bool tooFine = picture.width() > enough.width() && picture.height() > enough.height();
-    painter_.drawImage(QRectF(x, y, width, height),
-                       tooFine ? picture.scaled(enough, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : picture);
+    return tooFine ? picture.scaled(enough, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : picture;
+}
+
+void QtPrinter::drawText(double x, double y, const QString& line) { painter_.drawText(baseline(x, y), line); }
+
+void QtPrinter::drawPicture(const QImage& picture, double x, double y, double width, double height) {
+    painter_.drawImage(QRectF(x, y, width, height), printedPicture(picture, width, height));
 }
 
 void QtPrinter::finishDocument() {

@@ -22,6 +22,9 @@ class QtPrinter : public PenPrinter {
     explicit QtPrinter(std::shared_ptr<QPagedPaintDevice> device);
     ~QtPrinter() override;
 
+    /// Gives a painter the hints of every page.
+    static void prepare(QPainter& painter);
+
     void setFontName(const QString& family) override;
     void setFontSize(double points) override;
     void setFontBold(bool bold) override;
@@ -36,6 +39,12 @@ class QtPrinter : public PenPrinter {
     int charactersUntilWidth(const QString& text, int from, double limit) const override;
 
   protected:
+    const QFont& font() const { return font_; }
+    QColor color() const { return color_; }
+    /// Where the base line of a text begins whose top left corner is there.
+    QPointF baseline(double x, double y) const;
+    /// The picture as it is drawn into a box of that many twips: no finer than is seen on paper.
+    static QImage printedPicture(const QImage& picture, double width, double height);
     void beginDocument() override;
     void beginPage() override;
     void drawText(double x, double y, const QString& line) override;

@@ -53,10 +53,16 @@ void RecordingPrinter::drawPicture(const QImage&, double x, double y, double w, 
 
 void RecordingPrinter::finishDocument() { log_->operations += u"end"_s; }
 
-std::unique_ptr<Printer> RecordingPrinterDialogs::ShowPrinter() {
+std::unique_ptr<Printer> RecordingPrinterDialogs::ShowPrinter(const Document& document) {
     ++shown;
+    if (looks) {
+        document(preview, [](int, int) {});
+        preview.EndDoc();
+    }
     if (error != 0) throw RuntimeError(error);
     return std::make_unique<RecordingPrinter>(printer);
 }
+
+void RecordingPrinterDialogs::showProgress(int done, int of) { progress += u"%1 of %2"_s.arg(done).arg(of); }
 
 } // namespace zv::printing

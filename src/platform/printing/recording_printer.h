@@ -59,9 +59,13 @@ class RecordingPrinter : public PenPrinter {
 class RecordingPrinterDialogs : public PrinterDialogs {
   public:
     RecordingPrinter printer;
-    int shown = 0; ///< how often the dialog was asked for
-    int error = 0; ///< run-time error instead of a printer, if not 0
-    std::unique_ptr<Printer> ShowPrinter() override;
+    RecordingPrinter preview; ///< where the document goes that is looked at
+    bool looks = false;       ///< whether it is
+    QStringList progress;     ///< "done of number" of the print
+    int shown = 0;            ///< how often the dialog was asked for
+    int error = 0;            ///< run-time error instead of a printer, if not 0
+    std::unique_ptr<Printer> ShowPrinter(const Document& document) override;
+    void showProgress(int done, int of) override;
 };
 
 } // namespace zv::printing

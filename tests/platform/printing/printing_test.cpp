@@ -190,6 +190,8 @@ TEST(QtPrinter, KeepsWhatStandsInThePlaceOfAPdfThatFails) {
     EXPECT_EQ(old.readAll(), "old");
 }
 
+const Document nothing = [](Printer&, const Progress&) {};
+
 /// Answers the printer dialog that comes up next.
 void answer(const std::function<void(QPrintDialog&)>& how) {
     QTimer::singleShot(0, qApp, [how] {
@@ -206,14 +208,14 @@ TEST(PrinterDialog, PrintsIntoTheChosenFileOrCancels) {
     QWidget parent;
     QtPrinterDialogs dialogs(&parent);
     answer([](QPrintDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(errorOf([&] { dialogs.ShowPrinter(); }), 32755);
+    EXPECT_EQ(errorOf([&] { dialogs.ShowPrinter(nothing); }), 32755);
 
     const QString path = folder.filePath(u"chosen.pdf"_s);
     answer([&](QPrintDialog& dialog) {
         dialog.printer()->setOutputFileName(path);
         dialog.done(QDialog::Accepted);
     });
-    const auto printer = dialogs.ShowPrinter();
+    const auto printer = dialogs.ShowPrinter(nothing);
     printer->Print(u"one"_s);
     printer->EndDoc();
     EXPECT_TRUE(QFile::exists(path));
@@ -222,7 +224,7 @@ TEST(PrinterDialog, PrintsIntoTheChosenFileOrCancels) {
         EXPECT_EQ(dialog.printer()->outputFileName(), path) << "the choice stays";
         dialog.reject();
     });
-    EXPECT_EQ(errorOf([&] { dialogs.ShowPrinter(); }), 32755);
+    EXPECT_EQ(errorOf([&] { dialogs.ShowPrinter(nothing); }), 32755);
 }
 
 } // namespace
