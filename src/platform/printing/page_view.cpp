@@ -30,9 +30,12 @@ double PageView::pixelsPerPoint() const {
     const QSizeF paper = pages_.layout().fullRect(QPageLayout::Point).size();
     // The bars don't count: one that comes and goes with the size of the page would never come to rest.
     const QSize room = maximumViewportSize() - 2 * QSize(Ground, Ground);
-    const double across =
-        (room.width() - (zoom_ == PageWidth ? verticalScrollBar()->sizeHint().width() : 0)) / paper.width();
-    const double fitting = zoom_ == PageWidth ? across : std::min(across, room.height() / paper.height());
+    const double high = room.height() / paper.height();
+    double fitting = room.width() / paper.width();
+    if (zoom_ == WholePage)
+        fitting = std::min(fitting, high);
+    else if (fitting > high)
+        fitting = (room.width() - verticalScrollBar()->sizeHint().width()) / paper.width();
     return std::max(0.05, fitting);
 }
 
@@ -56,11 +59,16 @@ void PageView::setPage(int page) {
     if (page < 0 || page >= pages_.count()) return;
     page_ = page;
     verticalScrollBar()->setValue(0);
+    refresh();
+    if (PageShown) PageShown(page);
+}
+
+void PageView::refresh() {
+    if (page_ >= pages_.count()) return;
     viewport()->update();
     // For who can't see the page.
-    setAccessibleName(u"Page %1"_s.arg(page + 1));
-    setAccessibleDescription(pages_.words(page));
-    if (PageShown) PageShown(page);
+    setAccessibleName(u"Page %1"_s.arg(page_ + 1));
+    setAccessibleDescription(pages_.words(page_));
 }
 
 void PageView::setZoom(double zoom) {

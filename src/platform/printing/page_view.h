@@ -23,6 +23,8 @@ class PageView : public QAbstractScrollArea {
     int page() const { return page_; }
     /// Shows a page, from 0, from its head. A page beyond the last is none.
     void setPage(int page);
+    /// Shows the page anew, with what has been added to it.
+    void refresh();
     void setZoom(double zoom);
     QSize sizeHint() const override;
 

@@ -128,6 +128,9 @@ void PreviewDialog::connectPages() {
 
 void PreviewDialog::tellPages() {
     const int pages = std::max(1, pages_.count()), page = view_->page();
+    // What was the last page when it was drawn may have got more on it.
+    if (page + 1 >= told_) view_->refresh();
+    told_ = pages;
     number_->setMaximum(pages);
     number_->setValue(page + 1);
     count_->setText(u"of %1"_s.arg(pages));
@@ -139,7 +142,6 @@ void PreviewDialog::grow(int done, int of) {
     if (sinceShown_.isValid() && sinceShown_.elapsed() < Breath) return;
     making_->setRange(0, of);
     making_->setValue(done);
-    if (!sinceShown_.isValid()) view_->setPage(0);
     tellPages();
     QCoreApplication::processEvents();
     sinceShown_.start();
@@ -157,7 +159,6 @@ bool PreviewDialog::look(const Document& document) {
         return result() == Accepted;
     }
     making_->hide();
-    view_->setPage(view_->page());
     tellPages();
     return exec() == Accepted;
 }

@@ -43,6 +43,7 @@ class PreviewDialog : public QDialog {
     PageView* view_;
     QProgressBar* making_;
     QElapsedTimer sinceShown_;
+    int told_ = 0; ///< number of pages when it was told last
 };
 
 } // namespace zv::printing
