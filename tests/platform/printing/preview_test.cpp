@@ -164,7 +164,10 @@ class PaperChoice : public ::testing::TestWithParam<Paper> {};
 
 INSTANTIATE_TEST_SUITE_P(Preview, PaperChoice,
                          ::testing::Values(Paper{"A4", false}, Paper{"A4", true}, Paper{"A5", false},
-                                           Paper{"Letter", true}));
+                                           Paper{"Letter", true}),
+                         [](const auto& paper) {
+                             return std::string(paper.param.size) + (paper.param.landscape ? "Landscape" : "Portrait");
+                         });
 
 TEST_P(PaperChoice, IsThatOfPreviewAndPrintAlike) {
     const QTemporaryDir folder;
