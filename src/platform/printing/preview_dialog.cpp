@@ -26,6 +26,9 @@ constexpr int Breath = 50;
 
 /// The number of a page. Enter goes to it and presses no button.
 class PageNumber : public QSpinBox {
+  public:
+    using QSpinBox::QSpinBox;
+
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         QSpinBox::keyPressEvent(event);
@@ -63,7 +66,7 @@ PreviewDialog::PreviewDialog(std::shared_ptr<QPagedPaintDevice> paper, QWidget* 
 void PreviewDialog::addPageRow(QHBoxLayout& row) {
     previous_ = new QPushButton(u"P&revious"_s, this);
     previous_->setObjectName(u"BtnAnterior"_s);
-    number_ = new PageNumber;
+    number_ = new PageNumber(this);
     number_->setObjectName(u"TxtPagina"_s);
     number_->setAccessibleName(u"Page"_s);
     // Room for all the pages that are still to come: the window doesn't grow with them.

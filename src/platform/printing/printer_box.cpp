@@ -4,7 +4,6 @@
 #include "platform/printing/preview_dialog.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -85,13 +84,26 @@ void PrinterBox::addPreview() {
     connect(look, &QPushButton::clicked, this, [this] { preview(); });
 }
 
+QPushButton* PrinterBox::button(QDialogButtonBox::ButtonRole role) const {
+    const auto* buttons = findChild<QDialogButtonBox*>();
+    if (!buttons) return nullptr;
+    for (QAbstractButton* button : buttons->buttons())
+        if (buttons->buttonRole(button) == role) return qobject_cast<QPushButton*>(button);
+    return nullptr;
+}
+
+// As they are read: the paper behind the file, and the buttons from left to right.
 void PrinterBox::orderTabs() {
-    QWidget* last = part<QToolButton>(u"fileBrowser"_s);
-    if (!last) return;
-    for (QWidget* next : std::initializer_list<QWidget*>{size_, portrait_, landscape_}) {
-        setTabOrder(last, next);
-        last = next;
-    }
+    const auto chain = [](std::initializer_list<QWidget*> widgets) {
+        QWidget* last = nullptr;
+        for (QWidget* next : widgets) {
+            if (last && next) setTabOrder(last, next);
+            last = next;
+        }
+    };
+    chain({part<QToolButton>(u"fileBrowser"_s), size_, portrait_, landscape_});
+    chain({button(QDialogButtonBox::ResetRole), button(QDialogButtonBox::AcceptRole),
+           button(QDialogButtonBox::ActionRole), button(QDialogButtonBox::RejectRole)});
 }
 
 bool PrinterBox::intoFile() {
@@ -103,15 +115,13 @@ bool PrinterBox::intoFile() {
 void PrinterBox::offerWhatCounts() {
     const bool file = intoFile();
     if (auto* properties = part<QPushButton>(u"properties"_s)) properties->setVisible(!file);
-    QPushButton* options = nullptr;
-    if (auto* buttons = findChild<QDialogButtonBox*>())
-        for (QAbstractButton* button : buttons->buttons())
-            if (buttons->buttonRole(button) == QDialogButtonBox::ResetRole)
-                options = qobject_cast<QPushButton*>(button);
+    auto* options = button(QDialogButtonBox::ResetRole);
     if (!options) return;
     const auto* pane = findChild<QTabWidget*>(u"tabs"_s);
     if (file && pane && pane->isVisible()) options->click();
     options->setVisible(!file);
+    // The row of buttons passes the focus on to its first one, though that be hidden.
+    options->parentWidget()->setFocusProxy(file ? button(QDialogButtonBox::AcceptRole) : options);
 }
 
 void PrinterBox::printerChanged() {
@@ -175,8 +185,7 @@ void PrinterBox::preview() {
         return;
     }
     // As if it were pressed: the toolkit may still have a question about the file.
-    if (auto* buttons = findChild<QDialogButtonBox*>())
-        if (QPushButton* print = buttons->button(QDialogButtonBox::Ok)) print->click();
+    if (auto* print = button(QDialogButtonBox::AcceptRole)) print->click();
 }
 
 } // namespace zv::printing

@@ -3,6 +3,7 @@
 
 #include "platform/printing/printer.h"
 
+#include <QDialogButtonBox>
 #include <QPrintDialog>
 
 class QComboBox;
@@ -32,6 +33,8 @@ class PrinterBox : public QPrintDialog {
     Part* part(const QString& name) const {
         return findChild<Part*>(name);
     }
+
+    QPushButton* button(QDialogButtonBox::ButtonRole role) const;
 
     bool intoFile();
     void offerWhatCounts();

@@ -218,6 +218,39 @@ TEST_P(PaperChoice, IsThatOfPreviewAndPrintAlike) {
     EXPECT_EQ(errorOf([&] { dialogs.ShowPrinter(pages); }), 32755);
 }
 
+/// Names of what gains the focus by the tab key, from what has it.
+QStringList tabs(QDialog& dialog) {
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    QStringList names;
+    QWidget* const first = dialog.focusWidget();
+    do {
+        const auto* button = qobject_cast<QPushButton*>(dialog.focusWidget());
+        const QString name = dialog.focusWidget()->objectName();
+        names += name.isEmpty() && button ? button->text().remove(u'&') : name;
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    } while (dialog.focusWidget() != first && names.size() < 20);
+    return names;
+}
+
+TEST(PrinterDialog, IsWalkedInReadingOrder) {
+    QWidget parent;
+    QtPrinterDialogs dialogs(&parent);
+    Answers answers;
+    answers.add(TheDialog, [](QDialog& dialog) {
+        dialog.findChild<QComboBox*>(u"printers"_s)->setFocus();
+        EXPECT_EQ(tabs(dialog), QStringList({u"printers"_s, u"filename"_s, u"fileBrowser"_s, u"ComboPapel"_s,
+                                             u"OpcVertical"_s, u"Print"_s, u"BtnVistaPrevia"_s, u"Cancel"_s}));
+        click(dialog, u"BtnVistaPrevia"_s);
+        QTimer::singleShot(0, &dialog, &QDialog::reject);
+    });
+    answers.add(ThePreview, [](QDialog& dialog) {
+        EXPECT_EQ(tabs(dialog), QStringList({u"PageView"_s, u"BtnImprimir"_s, u"BtnRegresar"_s, u"TxtPagina"_s,
+                                             u"BtnSiguiente"_s, u"ComboZoom"_s}));
+        escape(dialog);
+    });
+    EXPECT_EQ(errorOf([&] { dialogs.ShowPrinter(pages); }), 32755);
+}
+
 TEST(Preview, GoesFromPageToPage) {
     QWidget parent;
     QtPrinterDialogs dialogs(&parent);
