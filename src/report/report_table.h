@@ -66,7 +66,7 @@ inline constexpr ReportColumn ReportColumns[] = {
     {u"NumRegSeleccion1", u"R", u"No. of Listed Records", 7680, 750, Content::Counter, &store::KindMemory::ContSel},
     {u"NumFiltros1", u"Fl", u"No. of Listed Filters", 8445, 450, Content::Counter, &store::KindMemory::ContFil},
     {u"NumCampos", u"F", u"No. of Fields per Listed Record", 8910, 480, Content::Ticks},
-    {u"Orden", u"R", u"Order No. of the Record", 9460, 644, Content::Order},
+    {u"Orden", u"R", u"Order No. of the Record", 9525, 600, Content::Order},
 };
 static_assert(std::size(ReportColumns) == ColumnCount);
 

@@ -45,7 +45,7 @@ GroupShowEdit::GroupShowEdit(shell::Context& context, QWidget* parent, const QSt
 
 void GroupShowEdit::addGroup() {
     addLabel({}, Role::Heading, group_.heading, {4740, 4815, 2865, 270}, type::S, true, ToLeft);
-    addLabel({}, Role::None, u"(\"Recording\" Record)"_s, {7620, 4815, 2250, 270}, type::S, false, ToRight);
+    addLabel({}, Role::Unit, u"(\"Recording\" Record)"_s, {7620, 4815, 2250, 270}, type::S, false, ToRight);
     MSFlexGrid1 = add<FlexGrid>(u"MSFlexGrid1"_s, {4740, 5115, 3810, 1935});
     MSFlexGrid1->setType(type::G, false);
     MSFlexGrid1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

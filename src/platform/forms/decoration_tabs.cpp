@@ -91,11 +91,13 @@ void paintStrip(QPainter& painter, StripRows rows, bool locked, const Scale& sca
     const int count = rows == StripRows::Three ? 3 : rows == StripRows::Two ? 2 : 1, line = scale.hairline();
     const QRect all = scale.rect({0, 0, Width, Height});
     painter.fillRect(all, colour::Panel);
-    for (int row = 0; row < count; ++row) {
+    for (int row = 0; row < count; ++row)
         painter.fillRect(scale.rect({0, Row * row, Width, Row}), row == 0 ? colour::TabBand1 : colour::TabBand2);
-        paintRowLine(painter, row + 1, scale);
-    }
+    painter.save();
+    painter.setClipRect(scale.rect({0, 0, Width, Row})); // the clef is higher than its row
     paintStaff(painter, {8020, 2120, 210, 60, true, true, {-1, 1, 3, 0, 2, -3}, 640, 254}, RowMotif, scale);
+    painter.restore();
+    for (int row = 1; row <= count; ++row) paintRowLine(painter, row, scale);
     if (rows == StripRows::One) paintStaff(painter, {165, 9990, 855, 90, false, false}, colour::Motif, scale);
     if (rows == StripRows::Two) paintStaff(painter, {165, 9990, 1057, 60, false, false}, colour::Motif, scale);
     if (locked) paintPadlock(painter, scale);

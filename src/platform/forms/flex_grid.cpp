@@ -241,6 +241,11 @@ void FlexGrid::layoutSizes() {
     laying_ = false;
 }
 
+void FlexGrid::setType(int heightTwips, bool bold) {
+    Placed::setType(heightTwips, bold);
+    if (scale()) horizontalHeader()->setFont(scale()->font(heightTwips, true));
+}
+
 void FlexGrid::applyScale(const Scale& scale) {
     Placed::applyScale(scale);
     horizontalHeader()->setFont(scale.font(typeHeight(), true));

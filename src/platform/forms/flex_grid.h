@@ -57,6 +57,8 @@ class FlexGrid : public Control<QTableWidget> {
     void RemoveItem(int row);
     void Clear();
 
+    /// The headings have the same type in bold.
+    void setType(int heightTwips, bool bold);
     void applyScale(const Scale& scale) override;
     void clearHandlers() override;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;

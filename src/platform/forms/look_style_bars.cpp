@@ -108,9 +108,10 @@ void LookStyle::drawScrollBar(const QStyleOptionComplex& option, QPainter& paint
     if (!slider) return;
     const bool slim = pixelMetric(PM_ScrollBarExtent, &option, widget) < scale_.px(255);
     const Bar bar(*slider, slim, scale_);
-    draw::State state = draw::stateOf(option, widget);
+    const draw::State state = draw::stateOf(option, widget);
     const auto part = [&](SubControl which) {
         draw::State s = state;
+        s.enabled = state.enabled && bar.movable();
         s.hovered = state.hovered && (option.activeSubControls & which);
         s.pressed = s.hovered && (option.state & State_Sunken);
         return s;
