@@ -267,7 +267,10 @@ void ListScreen::fillHeadings() {
     heading(0, store::EtiNumero);
     int column = 1;
     for (int i = 0; i + 1 < itemCount(); ++i)
-        if (isTicked(i)) heading(column++, List->List(i));
+        if (isTicked(i)) {
+            Tabla->setLinesLevel(column, areLinesLevel(i));
+            heading(column++, List->List(i));
+        }
     Progress->setProgress(0);
     Progress->setMax(Tabla->Rows() - 1);
 }

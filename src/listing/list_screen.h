@@ -28,6 +28,8 @@ class ListScreen : public shell::Screen, protected PrintRecords {
     virtual QString paperText(int item) { return cellText(item); }
     /// Whether the field is a number, to be aligned with its like.
     virtual bool isNumber(int item) const;
+    /// Whether line k of an item's cell belongs with line k of its neighbours.
+    virtual bool areLinesLevel(int) const { return false; }
     QString picturePath() override;
     QStringList values() override;
     int position() override { return Data().Recordset().AbsolutePosition(); }

@@ -41,6 +41,8 @@ QStringList FormReg1LisGrabacion::itemCaptions() const {
 
 bool FormReg1LisGrabacion::isNumber(int item) const { return itemAt(item).isNumber(); }
 
+bool FormReg1LisGrabacion::areLinesLevel(int item) const { return isGroup(itemAt(item).source); }
+
 QString FormReg1LisGrabacion::picturePath() { return parts_.part(Kind::Soporte).text(u"Imagen"); }
 
 void FormReg1LisGrabacion::moveTo(int position) {

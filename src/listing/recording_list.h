@@ -21,6 +21,7 @@ class FormReg1LisGrabacion : public ListScreen {
     QString cellText(int item) override;
     QString paperText(int item) override;
     bool isNumber(int item) const override;
+    bool areLinesLevel(int item) const override;
     QString picturePath() override;
     QStringList values() override;
     void moveTo(int position) override;

@@ -28,6 +28,11 @@ class CellDelegate : public QStyledItemDelegate {
         if (low) {
             option->text = draw::firstLine(option->text);
             option->features &= ~QStyleOptionViewItem::WrapText;
+        } else if (grid_->areLinesLevel(index.column())) {
+            const int width = grid_->style()->subElementRect(QStyle::SE_ItemViewItemText, option, grid_).width();
+            QStringList lines = option->text.split(QChar::LineSeparator); // as the toolkit hands line ends on
+            for (QString& line : lines) line = option->fontMetrics.elidedText(line, Qt::ElideRight, width - 1);
+            option->text = lines.join(QChar::LineSeparator);
         }
         option->textElideMode = Qt::ElideRight;
         option->state &= ~QStyle::State_HasFocus;
@@ -85,6 +90,7 @@ void FlexGrid::setRows(int rows) {
 void FlexGrid::setCols(int cols) {
     if (cols < 0) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
     widths_.resize(std::size_t(cols), -1);
+    linesLevel_.resize(std::size_t(cols));
     col_ = std::min(col_, std::max(0, cols - 1));
     setColumnCount(cols);
     layoutSizes();
@@ -175,6 +181,11 @@ void FlexGrid::setCellForeColor(const QColor& colour) { cell(row_, col_)->setFor
 void FlexGrid::setCellBackColor(const QColor& colour) { cell(row_, col_)->setBackground(colour); }
 
 void FlexGrid::setAlignment(int row, int col, Qt::Alignment alignment) { cell(row, col)->setTextAlignment(alignment); }
+
+void FlexGrid::setLinesLevel(int col, bool level) {
+    check(0, col);
+    linesLevel_[std::size_t(col)] = level;
+}
 
 int FlexGrid::ColWidth(int col) const {
     if (col < 0 || col >= Cols()) throw RuntimeError(30010, QStringLiteral("Invalid Col value"));

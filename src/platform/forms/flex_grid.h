@@ -30,6 +30,9 @@ class FlexGrid : public Control<QTableWidget> {
     void setNeverScrollsDown();
     /// The first column stays in its place while the horizontal bar moves the others under it.
     void setFirstColumnFixed();
+    /// Whether the lines of a column's cells are cut, not wrapped, so that they stand level with those of other columns.
+    void setLinesLevel(int col, bool level);
+    bool areLinesLevel(int col) const { return linesLevel_[std::size_t(col)]; }
     void setDefaultColWidth(int twips) { defaultWidth_ = twips; }
     /// Height in twips of rows that the logic has not set.
     void setRowHeightMin(int twips);
@@ -80,6 +83,7 @@ class FlexGrid : public Control<QTableWidget> {
     int row_ = 0, col_ = 0;
     int defaultWidth_ = 960, minHeight_ = 240;
     std::vector<int> widths_, heights_; ///< twips
+    std::vector<bool> linesLevel_;
     WheelSteps wheel_;
     bool laying_ = false;
     FixedColumn* fixedColumn_ = nullptr;

@@ -35,6 +35,31 @@ class Grid : public Bench {
     }
 };
 
+TEST_F(Grid, HeadingsHaveTheTypeOfTheGrid) {
+    for (const int height : {type::G, type::XL}) {
+        grid->setType(height, false);
+        EXPECT_EQ(grid->horizontalHeader()->font(), scale.font(height, true));
+    }
+}
+
+TEST_F(Grid, LevelLinesAreCutAndNotWrapped) {
+    grid->setRows(2);
+    grid->setCols(1);
+    for (int row = 0; row < 2; ++row) {
+        grid->setRowHeight(row, 900);
+        grid->setAlignment(row, 0, Qt::AlignLeft | Qt::AlignTop);
+        grid->setTextMatrix(row, 0, (row ? u"x\r"_s : u"Long Name "_s.repeated(9) + u'\r') + u"Second"_s);
+    }
+    const auto secondLines = [this](int row) {
+        QRect cell = grid->visualItemRect(grid->item(row, 0)).adjusted(0, 0, 0, -2);
+        const int line = QFontMetrics(grid->font()).lineSpacing();
+        return grid->viewport()->grab(QRect(cell.left(), cell.top() + line, cell.width(), line)).toImage();
+    };
+    EXPECT_NE(secondLines(0), secondLines(1));
+    grid->setLinesLevel(0, true);
+    EXPECT_EQ(secondLines(0), secondLines(1));
+}
+
 TEST_F(Grid, GrowsAndShrinks) {
     fill(3, 2);
     grid->setRows(4);
