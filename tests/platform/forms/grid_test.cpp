@@ -1,6 +1,7 @@
 // The grid: rows and columns as the logic counts them, its errors, and widths that are twips.
 #include "bench_form.h"
 #include "platform/forms/flex_grid.h"
+#include "platform/forms/look_style.h"
 #include <QHeaderView>
 
 namespace zv::forms {
@@ -43,12 +44,13 @@ TEST_F(Grid, HeadingsHaveTheTypeOfTheGrid) {
 }
 
 TEST_F(Grid, LevelLinesAreCutAndNotWrapped) {
+    LookStyle look(scale);
+    grid->setStyle(&look);
     grid->setRows(2);
     grid->setCols(1);
     for (int row = 0; row < 2; ++row) {
         grid->setRowHeight(row, 900);
-        grid->setAlignment(row, 0, Qt::AlignLeft | Qt::AlignTop);
-        grid->setTextMatrix(row, 0, (row ? u"x\r"_s : u"Long Name "_s.repeated(9) + u'\r') + u"Second"_s);
+        grid->setTextMatrix(row, 0, (row ? u"x\r"_s : u"Hans Wolf "_s.repeated(9) + u'\r') + u"Second"_s);
     }
     const auto secondLines = [this](int row) {
         QRect cell = grid->visualItemRect(grid->item(row, 0)).adjusted(0, 0, 0, -2);
@@ -58,6 +60,7 @@ TEST_F(Grid, LevelLinesAreCutAndNotWrapped) {
     EXPECT_NE(secondLines(0), secondLines(1));
     grid->setLinesLevel(0, true);
     EXPECT_EQ(secondLines(0), secondLines(1));
+    grid->setStyle(nullptr);
 }
 
 TEST_F(Grid, GrowsAndShrinks) {
