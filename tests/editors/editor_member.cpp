@@ -38,6 +38,12 @@ void EditorMember::fill(int rows) {
             .arg(QString::number(rows), table, columns.join(u", "_s), values.join(u", "_s)));
 }
 
+void EditorMember::open(int rows) {
+    fill(rows);
+    start();
+    hands->go(showNumber);
+}
+
 void EditorMember::restart() {
     close();
     stop();
@@ -54,22 +60,13 @@ void EditorMember::narrow(const QString& condition) {
     hands->go(showNumber);
 }
 
+void EditorMember::expectQuestion() {
+    if (kind.form == 1) boxes.expect(store::MensaEliRegPosibleGrabacion, box::YesNoInformation, box::Yes);
+}
+
 void EditorMember::identify(const QString& name) {
     for (const Field& field : kind.fields)
         if (field.identifier) hands->type(field.control.toString(), name);
-}
-
-void EditorMember::save() {
-    boxes.expect(u"Record SAVED correctly."_s, box::Information);
-    hands->click(u"BtnGuardar"_s);
-}
-
-QString EditorMember::picture(const QString& name, int width, int height, const char* format) {
-    const QString path = folder_.filePath(name);
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    EXPECT_TRUE(image.save(path, format)) << format;
-    return path;
 }
 
 QString EditorMember::pictureState() {
@@ -84,14 +81,6 @@ QString EditorMember::pictureState() {
         colour == QColor(Qt::black)          ? u"black"_s
         : colour == QColor(0xE0, 0xE0, 0xE0) ? u"unseen"_s
                                              : colour.name());
-}
-
-QStringList changedLines(const QString& before, const QString& after) {
-    const QStringList old = before.split(u'\n'), now = after.split(u'\n');
-    QStringList changed;
-    for (qsizetype i = 0; i < now.size(); ++i)
-        if (i >= old.size() || old[i] != now[i]) changed += now[i];
-    return changed;
 }
 
 } // namespace zv::test

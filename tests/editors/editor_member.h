@@ -30,6 +30,7 @@ class EditorMember : public Desk, public ::testing::WithParamInterface<Kind> {
     std::vector<const store::Field*> textBoxes() const;
     std::vector<const store::Field*> textBoxesOf(store::Value value) const;
     const store::Field& identifier() const;
+    static QString name(const store::Field& field) { return field.control.toString(); }
     QString identifierBox() const { return identifier().control.toString(); }
     /// The box of the first year of four digits.
     const store::Field& year() const;
@@ -42,24 +43,21 @@ class EditorMember : public Desk, public ::testing::WithParamInterface<Kind> {
 
     /// Fills the table with rows named "Row 1" to "Row n" before the start.
     void fill(int rows);
+    /// Starts on that many rows with the kind's Show-Edit screen.
+    void open(int rows);
     /// The program anew on the same file.
     void restart();
     /// Shows the kind's Show-Edit screen with the rows that a condition on the identifier leaves.
     void narrow(const QString& condition);
 
+    /// Only the removal of what a recording may point to is asked for.
+    void expectQuestion();
     /// Types a name into every box that identifies the record.
     void identify(const QString& name);
-    /// Accepts an Add screen that saves.
-    void save();
 
-    /// Writes a picture of that size in pixels and gives its path.
-    QString picture(const QString& name, int width, int height, const char* format);
     /// The picture and what stands on it, in twips: "Imagen left top width height, LabNombre top, Remove top|hidden,
     /// name black|unseen".
     QString pictureState();
 };
-
-/// Lines of `after` that `before` does not have at their place.
-QStringList changedLines(const QString& before, const QString& after);
 
 } // namespace zv::test

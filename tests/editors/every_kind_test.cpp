@@ -17,7 +17,6 @@ class EveryKind : public EditorMember {
         const QString alphabet = u"Dvořák ñÑ ß œ Шостакович 音楽 ' \" * # % _ [x] é"_s;
         return alphabet.repeated(count / alphabet.size() + 1).left(count - 1) + u'z';
     }
-    QString name(const Field& field) const { return field.control.toString(); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Editors, EveryKind,
@@ -58,6 +57,8 @@ TEST_P(EveryKind, noIdentifierMayBeBlank) {
     start();
     hands->go(addNumber);
     const auto ground = [this](const Field& field) { return hands->get<forms::TextBox>(name(field)).BackColor(); };
+    for (const Field* field : textBoxes())
+        if (!field->identifier) hands->type(name(*field), u"7"_s);
     for (const Field* field : textBoxes()) {
         if (!field->identifier) continue;
         identify(u"named"_s);
@@ -69,6 +70,10 @@ TEST_P(EveryKind, noIdentifierMayBeBlank) {
         boxes.expect(u"IDENTIFIER must be Introduced."_s, box::Warning);
         hands->click(u"BtnGuardar"_s);
     }
+    for (const Field* field : textBoxes())
+        if (!field->identifier) {
+            EXPECT_EQ(shown(*field), u"7"_s) << name(*field).toStdString();
+        }
     EXPECT_EQ(identifiers(), QStringList{});
     EXPECT_EQ(channel().Recordset().RecordCount(), 0);
 }
@@ -78,6 +83,7 @@ TEST_P(EveryKind, aRecordIsChangedInEveryFieldAndRemoved) {
     start();
     hands->go(showNumber);
     hands->type(u"TxtOrden"_s, u"2"_s);
+    const QString memory = program->store.memory.dump();
     hands->click(u"BtnModificar"_s);
     int n = 10;
     for (const Field* field : textBoxes()) hands->type(name(*field), QString::number(++n));
@@ -87,11 +93,17 @@ TEST_P(EveryKind, aRecordIsChangedInEveryFieldAndRemoved) {
         EXPECT_EQ(column(*field)[1], QString::number(++n)) << name(*field).toStdString();
         EXPECT_EQ(shown(*field), QString::number(n)) << name(*field).toStdString();
     }
-    // Only what a recording may point to is asked for.
-    if (kind.form == 1)
-        boxes.expect(
-            u"ATTENTION:\r\rThis record will be also removed from 'Recording'.\r\rWould you like to continue?"_s, 68,
-            box::Yes);
+    EXPECT_EQ(identifiers(), (QStringList{u"Row 1"_s, identifiers()[1], u"Row 3"_s}));
+    EXPECT_EQ(program->store.memory.dump().toStdString(), memory.toStdString());
+    // An emptied year is a zero.
+    hands->click(u"BtnModificar"_s);
+    for (const Field* year : textBoxesOf(Value::Year)) hands->type(name(*year), u"x"_s);
+    hands->click(u"BtnGuardar"_s);
+    for (const Field* year : textBoxesOf(Value::Year)) {
+        EXPECT_EQ(shown(*year), QString()) << name(*year).toStdString();
+        EXPECT_EQ(column(*year)[1], u"0"_s) << name(*year).toStdString();
+    }
+    expectQuestion();
     hands->click(u"BtnEliminar"_s);
     hands->click(u"BtnGuardar"_s);
     EXPECT_EQ(identifiers(), (QStringList{u"Row 1"_s, u"Row 3"_s}));
@@ -107,7 +119,7 @@ TEST_P(EveryKind, aFailureBesideTheWritesIsReportedExceptOnInternet) {
     hands->go(showNumber);
     std::vector<int> fatal;
     setFatalErrorHandler([&](const RuntimeError& error) { fatal.push_back(error.number()); });
-    if (kind.form == 1) boxes.expect(store::MensaEliRegPosibleGrabacion, box::YesNoInformation, box::Yes);
+    expectQuestion();
     hands->click(u"BtnEliminar"_s);
     if (kind.kind != Kind::Internet) boxes.expect(u"Has occurred Error: 6"_s, box::Critical);
     hands->click(u"BtnGuardar"_s);

@@ -71,7 +71,7 @@ TEST_P(FailingWrite, aFailedChangeShowsTheRowAsItIs) {
         identify(u"lost"_s);
         clickFailing(u"BtnGuardar"_s, c.fault, c.number);
         EXPECT_EQ(hands->dump().toStdString(), screen.toStdString());
-        if (kind.partOfRecording) boxes.expect(store::MensaEliRegPosibleGrabacion, box::YesNoInformation, box::Yes);
+        expectQuestion();
         hands->click(u"BtnEliminar"_s);
         clickFailing(u"BtnGuardar"_s, c.fault, c.number);
         EXPECT_EQ(hands->dump().toStdString(), screen.toStdString());
@@ -82,32 +82,6 @@ TEST_P(FailingWrite, aFailedChangeShowsTheRowAsItIs) {
     identify(u"changed"_s);
     hands->click(u"BtnGuardar"_s);
     EXPECT_EQ(identifiers(), (QStringList{u"Row 1"_s, u"changed"_s}));
-}
-
-TEST_P(FailingWrite, aFileThatAnotherProgramWritesIsLocked) {
-    hands->go(addNumber);
-    identify(u"lost"_s);
-    boxes.expect(u"Has occurred Error: 3260"_s, box::Critical);
-    {
-        SQLite::Database other(file().toStdString(), SQLite::OPEN_READWRITE);
-        SQLite::Transaction writing(other, SQLite::TransactionBehavior::IMMEDIATE);
-        hands->click(u"BtnGuardar"_s);
-    }
-    EXPECT_EQ(identifiers(), (QStringList{u"Row 1"_s, u"Row 2"_s}));
-    identify(u"Row 3"_s);
-    save();
-}
-
-TEST_P(FailingWrite, aRowThatIsGoneCannotBeChanged) {
-    hands->go(showNumber);
-    hands->click(u"BtnModificar"_s);
-    identify(u"lost"_s);
-    sql(u"DELETE FROM "_s + table);
-    boxes.expect(u"Has occurred Error: 3167"_s, box::Critical);
-    hands->click(u"BtnGuardar"_s);
-    EXPECT_TRUE(hands->isEnabled(u"BtnModificar"_s));
-    EXPECT_TRUE(program->window.Solapas().TabNivel1->isEnabled());
-    EXPECT_EQ(identifiers(), QStringList{});
 }
 
 } // namespace

@@ -31,12 +31,7 @@ class Orchestra : public Desk {
         return QString::number(program->store.memory.Orquesta.Select) + u' ' +
                texts[std::size_t(store::info(Kind::Orquesta).indexOf(u"Nombre"))];
     }
-    QString focus() { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
     QStringList rows() { return stored(u"Orquesta"_s, u"OrqGrpCor, Nombre, Genero, Fecha"_s); }
-    void save() {
-        boxes.expect(store::MensaGrabadoBien, box::Information);
-        hands->click(u"BtnGuardar"_s);
-    }
     void openRows(const QStringList& values) {
         put({u"Orquesta"_s, u"OrqGrpCor, Nombre, Genero, Fecha"_s, values});
         start();

@@ -1,6 +1,5 @@
 // Add Recording: composing out of records that exist, saving, undoing.
 #include "editors/recording_desk.h"
-#include "platform/base/text.h"
 
 namespace zv::test {
 namespace {
@@ -89,68 +88,11 @@ TEST_F(RecordingAdd, withoutAFormatNothingIsSaved) {
     EXPECT_EQ(links(), u"1-1; 1-1; 1-1"_s);
 }
 
-TEST_F(RecordingAdd, fullGroupsAreLinkedWhole) {
-    putParts(11, 101);
-    start();
-    const auto gatherAll = [this](Part part, int count, const QString& told) {
-        hands->go(FirstShowEdit + part);
-        // Backwards: the recording shows the order of the table.
-        for (int order = count; order > 1; --order) gather(order);
-        gather(2); // a second time it is not taken
-        boxes.expect(told, 48);
-        gather(1);
-        EXPECT_FALSE(hands->isEnabled(u"BtnAñadirGrupo"_s));
-    };
-    gatherAll(Conductor, 10, u"10 Conductors Maximum."_s);
-    gatherAll(Orchestra, 10, u"10 Orchestras-Ensembles-Choirs Maximum."_s);
-    gatherAll(Performer, 100, u"100 Performers Maximum."_s);
-    EXPECT_LE(Val(module1().ListaDirectorAna.at(10, 1)), 0);
-    EXPECT_LE(Val(module1().ListaInterpreteAna.at(100, 1)), 0);
-    stand(Composer, 3);
-    stand(Work, 4);
-    stand(Format, 5);
-    hands->go(Add);
-    for (const Part part : {Composer, Work, Format}) heading(part);
-    EXPECT_EQ(keys(true), u"3 4 5"_s);
-    EXPECT_EQ(removable(), u"Compositor Obra Orquesta Director Interprete Soporte"_s);
-    EXPECT_EQ(listed(Conductor).section(u'|', 0, 1), u"D Conductor 1|D Conductor 2"_s);
-    EXPECT_EQ(listed(Conductor).count(u'|'), 9);
-    EXPECT_EQ(listed(Orchestra).section(u'|', 9), u"Orchestra 10"_s);
-    EXPECT_EQ(listed(Performer).section(u'|', 99), u"P Performer 100, horn"_s);
-    EXPECT_EQ(hands->text(u"LabInterpreteNumeroInterprete"_s), u"100"_s);
-    save();
-    EXPECT_EQ(rows(), QStringList(u"1|3|4|5|"_s));
-    QStringList ten, hundred;
-    for (int key = 10; key > 0; --key) ten += u"1-%1"_s.arg(key);
-    for (int key = 100; key > 0; --key) hundred += u"1-%1"_s.arg(key);
-    EXPECT_EQ(links(), ten.join(u' ') + u"; "_s + ten.join(u' ') + u"; "_s + hundred.join(u' '));
-    for (const auto* table : {&module1().ListaDirectorAna, &module1().ListaOrquestaAna, &module1().ListaInterpreteAna})
-        for (int row = 0; row < table->rows(); ++row) {
-            EXPECT_EQ(table->at(row, 1), u" -1"_s);
-            EXPECT_EQ(table->at(row, 0), QString());
-        }
-    EXPECT_EQ(removable(), QString());
-
-    // It is undone with all its links; those of another recording stay.
-    sql(u"INSERT INTO RelacionInterprete VALUES(77, 1)"_s);
-    hands->click(u"BtnDeshacer"_s);
-    EXPECT_EQ(rows(), QStringList());
-    EXPECT_EQ(links(), u"; ; 77-1"_s);
-    EXPECT_EQ(recordings().Cont, 0);
-}
-
 TEST_F(RecordingAdd, oneMoreThanTheLimitIsReadPastItsTable) {
     putParts(11, 1);
     start();
-    hands->go(FirstShowEdit + Conductor);
-    for (int order = 1; order < 10; ++order) gather(order);
-    boxes.expect(u"10 Conductors Maximum."_s, 48);
-    gather(10);
-    // The next load of the screen lets one more in, unsaid. It fills the row that ends the table.
-    hands->go(Elsewhere);
-    hands->go(FirstShowEdit + Conductor);
-    gather(11);
-    EXPECT_EQ(module1().ListaDirectorAna.at(10, 1), u"11"_s);
+    // As an unsaid eleventh conductor leaves it: the row that ends the table is taken.
+    for (int row = 0; row <= 10; ++row) module1().ListaDirectorAna.at(row, 1) = QString::number(row + 1);
     std::vector<int> fatal;
     setFatalErrorHandler([&](const RuntimeError& error) { fatal.push_back(error.number()); });
     hands->go(Add);
@@ -159,70 +101,49 @@ TEST_F(RecordingAdd, oneMoreThanTheLimitIsReadPastItsTable) {
     EXPECT_EQ(rows(), QStringList());
 }
 
-TEST_F(RecordingAdd, tripsFromThePicturesChooseThePartsTwiceOver) {
-    putParts(4, 4);
+TEST_F(RecordingAdd, byTheTabsATripHasNoWayBack) {
+    putParts(1, 1);
     start();
     hands->go(Add);
-    for (int round = 1; round <= 2; ++round) {
-        SCOPED_TRACE(round);
-        for (const Part part : {Performer, Format, Conductor, Composer, Orchestra, Work}) {
-            trip(part);
-            EXPECT_TRUE(module1().RegresoAnaGrabacion);
-            EXPECT_TRUE(tabsFree());
-            EXPECT_EQ(hands->get<forms::Button>(u"BtnRegresar"_s).Left(), 3390);
-            const bool group = part == Orchestra || part == Conductor || part == Performer;
-            if (group) {
-                gather(round + 1);
-                gather(1);
-            } else {
-                walk(round + 1);
-            }
-            back();
-            hands->screen(u"FormReg1AnaGrabacion"_s);
-            EXPECT_FALSE(module1().RegresoAnaGrabacion);
-            if (!group) heading(part);
-        }
-        EXPECT_EQ(listed(Conductor), u"D Conductor 1|D Conductor %1"_s.arg(round + 1));
-        const QString key = QString::number(round + 1);
-        EXPECT_EQ(keys(true), QStringList({key, key, key}).join(u' '));
-        EXPECT_EQ(hands->text(u"LabCompositorApellidos"_s), u"Composer "_s + key);
-        EXPECT_EQ(marks(module1().ListaInterpreteAna), key + u",1,-1,-1"_s);
-        save();
-    }
-    EXPECT_EQ(rows(), (QStringList{u"1|2|2|2|"_s, u"2|3|3|3|"_s}));
-    EXPECT_EQ(links(), u"1-2 1-1 2-3 2-1; 1-2 1-1 2-3 2-1; 1-2 1-1 2-3 2-1"_s);
-    // By the tabs there is no way back.
     trip(Work);
+    EXPECT_TRUE(module1().RegresoAnaGrabacion);
+    EXPECT_TRUE(tabsFree());
     hands->go(FirstShowEdit);
     EXPECT_FALSE(module1().RegresoAnaGrabacion);
     back();
     hands->screen(u"FormReg1MosCompositor"_s);
 }
 
-TEST_F(RecordingAdd, leavingByTheTabsPutsTheChannelsBack) {
+/// The number of a screen of recordings.
+class RecordingEditors : public RecordingAdd, public ::testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Editors, RecordingEditors, ::testing::Values(7, 21),
+                         [](const auto& screen) { return screen.param == 7 ? "Add" : "ShowEdit"; });
+
+TEST_P(RecordingEditors, leavingByTheTabsPutsTheChannelsBack) {
     putParts(4, 4);
+    putRecordings({{1, 1, 1, {1}, {1}, {1}}});
     start();
     stand(Composer, 3);
     stand(Conductor, 2);
-    hands->click(u"BtnAñadirGrupo"_s);
     for (const bool byTabs : {true, false}) {
         SCOPED_TRACE(byTabs);
-        hands->go(Add);
-        heading(Composer);
-        EXPECT_EQ(program->store.Data(Kind::Compositor).Recordset().AbsolutePosition(), 2);
+        hands->go(GetParam());
         memory(Kind::Soporte).Posicion = 9;
         memory(Kind::Obra).Posicion = -1;
-        if (byTabs)
+        if (byTabs) {
             hands->go(Elsewhere);
-        else
+        } else {
+            if (GetParam() == ShowEdit) hands->click(u"BtnModificar"_s);
             trip(Performer);
+        }
         expectWholeTables();
         // A trip leaves the positions alone.
         EXPECT_EQ(memory(Kind::Soporte).Posicion, byTabs ? 4 : 9);
         EXPECT_EQ(memory(Kind::Obra).Posicion, byTabs ? 4 : -1);
         EXPECT_EQ(memory(Kind::Compositor).Posicion, 3);
-        if (!byTabs) continue;
         EXPECT_EQ(program->store.Data(Kind::Compositor).Recordset().AbsolutePosition(), 2);
+        if (!byTabs) continue;
         EXPECT_EQ(program->store.Data(Kind::Director).Recordset().AbsolutePosition(), 1);
         EXPECT_EQ(program->store.Data(Kind::Soporte).Recordset().AbsolutePosition(), 3);
     }

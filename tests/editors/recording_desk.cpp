@@ -45,14 +45,6 @@ void RecordingDesk::putRecordings(const QList<Recording>& recordings) {
     }
 }
 
-QString RecordingDesk::picture(const QString& name, QSize size) {
-    const QString path = folder_.filePath(name);
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    EXPECT_TRUE(image.save(path, "BMP"));
-    return path;
-}
-
 void RecordingDesk::stand(Part part, int order) {
     hands->go(FirstShowEdit + part);
     walk(order);
@@ -66,11 +58,6 @@ void RecordingDesk::gather(int order) {
 void RecordingDesk::trip(Part part) {
     hands->doubleClick(u"Imagen"_s + name(part));
     hands->screen(u"FormReg1Mos"_s + name(part));
-}
-
-void RecordingDesk::save() {
-    boxes.expect(store::MensaGrabadoBien, box::Information);
-    hands->click(u"BtnGuardar"_s);
 }
 
 QString RecordingDesk::listed(Part part) {

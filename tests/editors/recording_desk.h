@@ -26,8 +26,6 @@ class RecordingDesk : public Desk {
     };
     /// Adds recordings, the first gets the key 1.
     void putRecordings(const QList<Recording>& recordings);
-    /// A picture of that size in pixels; its path.
-    QString picture(const QString& name, QSize size);
 
     store::Module1& module1() { return program->store.module1; }
     store::KindMemory& recordings() { return memory(store::Kind::Grabacion); }
@@ -41,8 +39,6 @@ class RecordingDesk : public Desk {
     /// Double-clicks the picture of a part.
     void trip(Part part);
     void back() { hands->click(u"BtnRegresar"_s); }
-    /// Accepts an Add screen that saves.
-    void save();
     /// Types an order number.
     void walk(int order) { hands->type(u"TxtOrden"_s, QString::number(order)); }
 

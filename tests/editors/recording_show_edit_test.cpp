@@ -1,6 +1,5 @@
 // Show-Edit Recording: walking, modifying with trips to the parts, removing.
 #include "editors/recording_desk.h"
-#include "platform/base/text.h"
 
 namespace zv::test {
 namespace {
@@ -85,27 +84,6 @@ TEST_F(RecordingShowEdit, theWalkShowsEachRecordingWhole) {
     EXPECT_EQ(hands->text(u"TxtNotas"_s), u"second"_s);
     hands->go(Elsewhere);
     expectWholeTables();
-}
-
-TEST_F(RecordingShowEdit, aSaveWithoutChangesWritesTheSameLinksAnew) {
-    three();
-    open();
-    hands->click(u"BtnModificar"_s);
-    EXPECT_EQ(state(), modifying);
-    EXPECT_EQ(removable(), u"Compositor Obra Orquesta Director Interprete Soporte"_s);
-    hands->type(u"TxtNotas"_s, u"changed"_s);
-    hands->click(u"BtnGuardar"_s);
-    EXPECT_EQ(state(), showing);
-    EXPECT_EQ(removable(), QString());
-    EXPECT_EQ(rows(), (QStringList{u"1|1|1|1|changed"_s, storedRows[1], storedRows[2]}));
-    EXPECT_EQ(links(), u"2-2 1-1 1-2; 2-1 2-2 1-1; 2-4 1-1 1-2 1-3"_s);
-    // The same on a row that is not the first.
-    walk(2);
-    hands->click(u"BtnModificar"_s);
-    hands->click(u"BtnGuardar"_s);
-    EXPECT_EQ(links(), u"1-1 1-2 2-2; 1-1 2-1 2-2; 1-1 1-2 1-3 2-4"_s);
-    EXPECT_EQ(recordings().Posicion, 2);
-    EXPECT_EQ(hands->text(u"TxtNotas"_s), u"second"_s);
 }
 
 TEST_F(RecordingShowEdit, tripsComposeItAnewTwiceOver) {
@@ -269,30 +247,6 @@ TEST_F(RecordingShowEdit, partsThatAreGoneShowNothing) {
     EXPECT_EQ(links(), u"1-1 2-3; 1-1; 1-1 2-2 2-3"_s);
 }
 
-TEST_F(RecordingShowEdit, leavingByTheTabsPutsTheChannelsBack) {
-    three();
-    open();
-    stand(Composer, 3);
-    for (const bool byTabs : {true, false}) {
-        SCOPED_TRACE(byTabs);
-        hands->go(ShowEdit);
-        memory(Kind::Soporte).Posicion = 9;
-        memory(Kind::Director).Posicion = -1;
-        if (byTabs) {
-            hands->go(Elsewhere);
-        } else {
-            hands->click(u"BtnModificar"_s);
-            trip(Performer);
-        }
-        expectWholeTables();
-        // A trip leaves the positions alone.
-        EXPECT_EQ(memory(Kind::Soporte).Posicion, byTabs ? 4 : 9);
-        EXPECT_EQ(memory(Kind::Director).Posicion, byTabs ? 4 : -1);
-        EXPECT_EQ(memory(Kind::Compositor).Posicion, 3);
-        EXPECT_EQ(program->store.Data(Kind::Compositor).Recordset().AbsolutePosition(), 2);
-    }
-}
-
 TEST_F(RecordingShowEdit, aPartRemovedOnATripLeavesTheComposition) {
     three();
     open();
@@ -428,58 +382,6 @@ TEST_F(RecordingShowEdit, keysOfALongerGroupBeforeAreSavedWithAShorterOne) {
     hands->click(u"BtnModificar"_s);
     hands->click(u"BtnDeshacer"_s);
     EXPECT_EQ(marks(module1().ListaInterpreteMos, 9, 6), u"10,-2,-1,-1,-1,-1"_s);
-}
-
-TEST_F(RecordingShowEdit, aHundredOfTheLongestNamesAreShownAndSavedAgain) {
-    const QString longest(50, u'W');
-    putParts(3, 100);
-    for (const QString& table : {u"Director"_s, u"Interprete"_s})
-        sql(u"UPDATE %1 SET Nombre = '%2', Apellidos = '%2'"_s.arg(table, longest));
-    sql(u"UPDATE Interprete SET Instrumento = '%1'"_s.arg(longest));
-    sql(u"UPDATE Orquesta SET Nombre = '%1'"_s.arg(QString(75, u'M')));
-    QList<int> all;
-    for (int key = 100; key > 0; --key) all += key;
-    putRecordings({{1, 1, 1, {3, 1}, {2}, all}});
-    open();
-    const QString person = longest + u' ' + longest;
-    const QString people100 = QStringList(100, person + u", "_s + longest).join(u'|');
-    EXPECT_EQ(people(), person + u'|' + person + u"; "_s + QString(75, u'M') + u"; "_s + people100);
-    hands->click(u"BtnModificar"_s);
-    trip(Performer);
-    auto& grid = hands->get<forms::FlexGrid>(u"MSFlexGrid1"_s);
-    EXPECT_EQ(grid.Rows(), 100);
-    EXPECT_EQ(grid.TextMatrix(99, 0), person + u", "_s + longest);
-    // It is in the group already: a full one takes nothing more, and says nothing.
-    hands->click(u"BtnAñadirGrupo"_s);
-    EXPECT_EQ(grid.Rows(), 100);
-    back();
-    hands->click(u"BtnGuardar"_s);
-    std::ranges::reverse(all);
-    QStringList links;
-    for (const int key : all) links += u"1|%1"_s.arg(key);
-    EXPECT_EQ(stored(u"RelacionInterprete"_s, u"IdGrabacion, IdInterprete"_s), links);
-    EXPECT_EQ(listed(Performer), people100);
-    EXPECT_EQ(state(), showing);
-}
-
-TEST_F(RecordingShowEdit, whatTwoRecordingsShareStaysWithTheOther) {
-    putParts(4, 4);
-    const Recording shared{2, 2, 2, {3, 1}, {1, 2}, {4, 1}, u"both"_s};
-    putRecordings({shared, shared});
-    open();
-    const QString whole = people();
-    hands->click(u"BtnModificar"_s);
-    hands->click(u"BtnEliImaDirector"_s);
-    hands->click(u"BtnGuardar"_s);
-    EXPECT_EQ(links(), u"2-3 2-1; 2-1 2-2 1-1 1-2; 2-4 2-1 1-1 1-4"_s);
-    hands->click(u"BtnEliminar"_s);
-    hands->click(u"BtnGuardar"_s);
-    EXPECT_EQ(people(), whole);
-    EXPECT_EQ(keys(false), u"2 2 2"_s);
-    EXPECT_EQ(rows(), QStringList(u"2|2|2|2|both"_s));
-    EXPECT_EQ(links(), u"2-3 2-1; 2-1 2-2; 2-4 2-1"_s);
-    for (const Part part : {Composer, Work, Orchestra, Conductor, Performer, Format})
-        EXPECT_EQ(stored(name(part), u"*"_s).size(), 4) << name(part).toStdString();
 }
 
 TEST_F(RecordingShowEdit, linksToNothingAreLeftOutAndASaveDropsThem) {

@@ -13,12 +13,6 @@ using store::Value;
 
 class Modify : public EditorMember {
   protected:
-    void open(int rows) {
-        fill(rows);
-        start();
-        hands->go(showNumber);
-    }
-    QString name(const Field& field) const { return field.control.toString(); }
     /// A field of text that does not identify the record.
     const Field& plainText() const {
         return *std::ranges::find_if(kind.fields,
@@ -65,7 +59,7 @@ TEST_P(Modify, theThreeStatesAndTheWaysBetweenThem) {
     hands->click(u"BtnGuardar"_s);
     EXPECT_EQ(state(), Viewing);
     for (const QString& end : {u"BtnDeshacer"_s, u"BtnGuardar"_s}) {
-        if (kind.partOfRecording) boxes.expect(store::MensaEliRegPosibleGrabacion, box::YesNoInformation, box::Yes);
+        expectQuestion();
         hands->click(u"BtnEliminar"_s);
         EXPECT_EQ(state(), Removing);
         hands->click(u"BtnModificar"_s);
@@ -84,34 +78,12 @@ TEST_P(Modify, cancelLeavesTheCatalogueAndTheMemoryUntouched) {
     hands->click(u"BtnModificar"_s);
     for (const Field* field : textBoxes())
         hands->type(name(*field), field->value == Value::Year ? u"17"_s : u"other"_s);
-    files.choose(picture(u"a.bmp"_s, 400, 200, "bmp"));
+    files.choose(picture(u"a.bmp"_s, {400, 200}));
     hands->doubleClick(u"Imagen"_s);
     hands->click(u"BtnDeshacer"_s);
     EXPECT_EQ(hands->dump().toStdString(), screen.toStdString());
     EXPECT_EQ(program->store.memory.dump().toStdString(), memory.toStdString());
     EXPECT_EQ(rows(), before);
-}
-
-TEST_P(Modify, acceptChangesThisRowAndNoOther) {
-    open(3);
-    hands->type(u"TxtOrden"_s, u"2"_s);
-    const QString memory = program->store.memory.dump();
-    hands->click(u"BtnModificar"_s);
-    hands->type(identifierBox(), u"Ångström"_s);
-    hands->type(name(year()), u"1850"_s);
-    hands->click(u"BtnGuardar"_s);
-    EXPECT_EQ(identifiers(), (QStringList{u"Row 1"_s, u"Ångström"_s, u"Row 3"_s}));
-    EXPECT_EQ(column(year()), (QStringList{u""_s, u"1850"_s, u""_s}));
-    EXPECT_EQ(hands->text(u"TxtOrden"_s), u"2"_s);
-    EXPECT_EQ(shown(identifier()), u"Ångström"_s);
-    EXPECT_EQ(program->store.memory.dump().toStdString(), memory.toStdString());
-    // An emptied year is a zero.
-    hands->click(u"BtnModificar"_s);
-    hands->type(name(year()), u"x"_s);
-    EXPECT_EQ(shown(year()), u"");
-    hands->click(u"BtnGuardar"_s);
-    EXPECT_EQ(column(year())[1], u"0"_s);
-    EXPECT_EQ(shown(year()), u"");
 }
 
 TEST_P(Modify, aChangedRowMayLeaveItsSelection) {
@@ -185,7 +157,7 @@ TEST_P(Modify, aLockedBoxHandsTheFocusOn) {
 
 TEST_P(Modify, thePictureBelongsToTheRowOnlyOnAccept) {
     const Field& field = kind.fields.back();
-    const QString wide = picture(u"wide.bmp"_s, 400, 200, "bmp");
+    const QString wide = picture(u"wide.bmp"_s, {400, 200});
     open(2);
     const QString none = u"Imagen 240 240 3000 3000, LabNombre 3265, Remove hidden, name unseen"_s;
     hands->doubleClick(u"Imagen"_s);

@@ -10,11 +10,6 @@ namespace {
 
 class ShowEdit : public EditorMember {
   protected:
-    void open(int rows) {
-        fill(rows);
-        start();
-        hands->go(showNumber);
-    }
     forms::ScrollBar& bar() { return hands->get<forms::ScrollBar>(u"HScroll"_s); }
     /// Clicks on an arrow of the bar.
     void step(bool forward) {
@@ -32,7 +27,7 @@ class ShowEdit : public EditorMember {
             QString::number(bar().Max()), QString::number(memory().Posicion));
     }
     void removeRow() {
-        if (kind.partOfRecording) boxes.expect(store::MensaEliRegPosibleGrabacion, box::YesNoInformation, box::Yes);
+        expectQuestion();
         hands->click(u"BtnEliminar"_s);
         hands->click(u"BtnGuardar"_s);
     }
@@ -111,9 +106,7 @@ TEST_P(ShowEdit, aRemovalBeyondTheSelectionStandsOnItsLastRow) {
     open(7);
     hands->type(u"TxtOrden"_s, u"6"_s);
     narrow(u"< 'Row 4'"_s);
-    if (kind.partOfRecording) boxes.expect(store::MensaEliRegPosibleGrabacion, box::YesNoInformation, box::Yes);
-    hands->click(u"BtnEliminar"_s);
-    hands->click(u"BtnGuardar"_s);
+    removeRow();
     EXPECT_EQ(place(), u"Row 2, order 2, bar 2/2, position 5"_s);
     EXPECT_EQ(counters(), u"Removed 1, Selection 2; Cont 6, ContSel 2, ContEli 1"_s);
     EXPECT_TRUE(hands->isEnabled(u"BtnModificar"_s));
@@ -150,14 +143,6 @@ TEST_P(ShowEdit, theOnlyRowOfAFilterCountsAsTheTables) {
     EXPECT_EQ(place(), u", order 0, bar 1/1, position 1"_s);
     EXPECT_EQ(counters(), u"Removed 1, Selection 0; Cont 0, ContSel 0, ContEli 1"_s);
     EXPECT_EQ(identifiers().size(), 6);
-}
-
-TEST_P(ShowEdit, theLastRowOfATable) {
-    open(1);
-    removeRow();
-    EXPECT_EQ(place(), u", order 0, bar 1/1, position 1"_s);
-    EXPECT_EQ(counters(), u"Removed 1, Selection 0; Cont 0, ContSel 0, ContEli 1"_s);
-    EXPECT_EQ(identifiers(), QStringList{});
 }
 
 TEST_P(ShowEdit, onlyARecordThatARecordingMayUseAsksBeforeItGoes) {

@@ -111,28 +111,6 @@ TEST_F(WorkAdd, aWorkHas150MovementsAtTheMost) {
     EXPECT_EQ(hands->text(u"TxtTotal"_s), u"151:31:31"_s);
 }
 
-TEST_F(WorkAdd, movementsAreStoredAsTwoListsAndReadBack) {
-    movement(u"Allegro"_s, u"0"_s, u"7"_s, u"5"_s);
-    movement(u"Andante"_s, u"1"_s, u"0"_s, u"2"_s);
-    identify();
-    save();
-    EXPECT_EQ(movements(), u"[] []"_s) << "ready for the next work";
-    movement(u"Á ñ | ' \""_s, u""_s, u"1"_s, u"30"_s);
-    movement(u"two"_s, u""_s, u"2"_s, u"5"_s);
-    movement(u"three"_s, u"1"_s, u"1"_s, u"1"_s);
-    identify();
-    save();
-    EXPECT_EQ(storedMovements(), (QStringList{u"Allegro#Andante#| 425# 3602#|4027|2"_s,
-                                              u"Á ñ | ' \"#two#three#| 90# 125# 3661#|3876|3"_s}));
-    close();
-    stop();
-    start();
-    hands->go(showNumber);
-    EXPECT_EQ(movements(), u"Allegro|0|7|5\nAndante|1|0|2\n[01:07:07] [2]"_s);
-    hands->type(u"TxtOrden"_s, u"2"_s);
-    EXPECT_EQ(movements(), u"Á ñ | ' \"|0|1|30\ntwo|0|2|5\nthree|1|1|1\n[01:04:36] [3]"_s);
-}
-
 TEST_F(WorkAdd, movementsOutliveOtherScreensButTheirTotalIsAddedUpAnew) {
     movement(u"a"_s, u"0"_s, u"1"_s, u"0"_s);
     movement(u"b"_s, u"0"_s, u"0"_s, u"30"_s);

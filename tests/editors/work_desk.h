@@ -64,11 +64,6 @@ class WorkDesk : public Desk {
         hands->type(u"TxtAutor"_s, u"Vega"_s);
         hands->type(u"TxtNombre"_s, u"Symphony"_s);
     }
-    void save() {
-        boxes.expect(store::MensaGrabadoBien, box::Information);
-        hands->click(u"BtnGuardar"_s);
-    }
-    QString focus() { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
     /// Layout of the movements in twips: caption of the toggle, grid, first column, name box, button.
     QString layout() {
         auto& button = hands->get<forms::Button>(u"BtnAMList"_s);

@@ -2,6 +2,7 @@
 
 #include "plain_file.h"
 #include "platform/forms/look_style.h"
+#include "store/messages.h"
 #include <QApplication>
 #include <QTest>
 
@@ -63,6 +64,29 @@ void Desk::close(int answer) {
 }
 
 QStringList Desk::stored(const QString& table, const QString& columns) { return plain::stored(file(), table, columns); }
+
+QStringList Desk::changesSince(const QString& before) {
+    const QStringList old = before.split(u'\n'), now = program->store.memory.dump().split(u'\n');
+    QStringList changed;
+    for (qsizetype i = 0; i < now.size(); ++i)
+        if (old.value(i) != now[i]) changed += now[i];
+    return changed;
+}
+
+void Desk::save() {
+    boxes.expect(store::MensaGrabadoBien, box::Information);
+    hands->click(u"BtnGuardar"_s);
+}
+
+QString Desk::picture(const QString& name, QSize size, const char* format) {
+    const QString path = folder_.filePath(name);
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    EXPECT_TRUE(image.save(path, format)) << format;
+    return path;
+}
+
+QString Desk::focus() { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
 
 void Desk::sql(const QString& statement) { plain::run(file(), statement); }
 

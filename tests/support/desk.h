@@ -36,6 +36,15 @@ class Desk : public ::testing::Test {
     /// Runs a statement on the file, as another program would.
     void sql(const QString& statement);
 
+    /// Lines of the working memory that differ from an earlier dump.
+    QStringList changesSince(const QString& before);
+    /// Accepts an Add screen that saves.
+    void save();
+    /// Writes a picture of that size in pixels and gives its path.
+    QString picture(const QString& name, QSize size, const char* format = "BMP");
+    /// Name of the control that has the focus.
+    static QString focus();
+
     QString folder() const { return folder_.path(); }
     QString file() const { return folder_.filePath(store::DatabaseFile); }
     store::KindMemory& memory(store::Kind kind) { return program->store.memory.of(kind); }
