@@ -6,6 +6,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// First and last page of so many records at a zoom, worked out by hand: a page is 6000 high, or 5760 above a
+/// horizontal bar, and a row 300 times the zoom.
+struct Count {
+    int records, zoom;
+    QString first, last;
+};
+
 class Pages : public test::ListDesk, public ::testing::WithParamInterface<test::Member> {
   protected:
     Pages() : ListDesk(GetParam()) {}
@@ -13,6 +20,17 @@ class Pages : public test::ListDesk, public ::testing::WithParamInterface<test::
         fill(records);
         start();
         open();
+    }
+    void expectPages(const Count& c, bool wide) {
+        SCOPED_TRACE(u"%1 records at zoom %2"_s.arg(c.records).arg(c.zoom).toStdString());
+        select(u" WHERE Id < %1"_s.arg(c.records + 1));
+        list({m.text});
+        zoom().setValue(c.zoom);
+        if (wide) widen();
+        EXPECT_EQ(where(), c.first);
+        EXPECT_EQ(grid().horizontalScrollBar()->isVisible(), wide);
+        pages().setValue(pages().Max());
+        EXPECT_EQ(where(), c.last);
     }
     void expectEmptyState() {
         EXPECT_EQ(grid().Rows() + grid().Cols(), 0);
@@ -22,39 +40,21 @@ class Pages : public test::ListDesk, public ::testing::WithParamInterface<test::
     }
 };
 
-/// First and last page of so many records at a zoom, worked out by hand: a page is 6000 high, or 5760 above a
-/// horizontal bar, and a row 300 times the zoom.
-struct Count {
-    int records, zoom;
-    QString first, last;
-};
-
 TEST_P(Pages, HoldAsManyRecordsAsTheZoomLeavesRoomFor) {
     begin(41);
     for (const Count& c : {
              Count{1, 1, u"1/1 1-1"_s, u"1/1 1-1"_s},
-             Count{1, 5, u"1/1 1-1"_s, u"1/1 1-1"_s},
              Count{1, 20, u"1/1 1-1"_s, u"1/1 1-1"_s},
              Count{19, 1, u"1/1 1-19"_s, u"1/1 1-19"_s},
-             Count{19, 5, u"1/5 1-4+"_s, u"5/5 17-19"_s},
              Count{19, 19, u"1/19 1-1+"_s, u"19/19 19-19"_s},
              Count{20, 1, u"1/1 1-20"_s, u"1/1 1-20"_s},
              Count{20, 5, u"1/5 1-4+"_s, u"5/5 17-20"_s},
              Count{21, 1, u"1/2 1-20+"_s, u"2/2 21-21"_s},
              Count{21, 5, u"1/6 1-4+"_s, u"6/6 21-21"_s},
-             Count{21, 20, u"1/21 1-1+"_s, u"21/21 21-21"_s},
-             Count{41, 1, u"1/3 1-20+"_s, u"3/3 41-41"_s},
              Count{41, 5, u"1/11 1-4+"_s, u"11/11 41-41"_s},
              Count{41, 20, u"1/41 1-1+"_s, u"41/41 41-41"_s},
          }) {
-        SCOPED_TRACE(u"%1 records at zoom %2"_s.arg(c.records).arg(c.zoom).toStdString());
-        select(u" WHERE Id < %1"_s.arg(c.records + 1));
-        list({m.text});
-        zoom().setValue(c.zoom);
-        EXPECT_EQ(where(), c.first);
-        EXPECT_FALSE(grid().horizontalScrollBar()->isVisible());
-        pages().setValue(pages().Max());
-        EXPECT_EQ(where(), c.last);
+        expectPages(c, false);
     }
 }
 
@@ -69,15 +69,7 @@ TEST_P(Pages, LoseALineToTheHorizontalBar) {
              Count{41, 5, u"1/14 1-3+"_s, u"14/14 40-41"_s},
              Count{41, 19, u"1/41 1-1+"_s, u"41/41 41-41"_s},
          }) {
-        SCOPED_TRACE(u"%1 records at zoom %2"_s.arg(c.records).arg(c.zoom).toStdString());
-        select(u" WHERE Id < %1"_s.arg(c.records + 1));
-        list({m.text});
-        zoom().setValue(c.zoom);
-        widen();
-        EXPECT_EQ(where(), c.first);
-        EXPECT_TRUE(grid().horizontalScrollBar()->isVisible());
-        pages().setValue(pages().Max());
-        EXPECT_EQ(where(), c.last);
+        expectPages(c, true);
         zoom().setValue(1);
     }
     list({m.text});

@@ -110,12 +110,9 @@ TEST_F(ListInternet, HasTicksOfItsOwn) {
     put({u"Interprete"_s, u"Apellidos"_s, {u"'c'"_s}});
     start();
     open();
-    const QStringList before = program->store.memory.dump().split(u'\n');
+    const QString before = program->store.memory.dump();
     list({u"URL"_s});
-    QStringList changed;
-    for (const QString& line : program->store.memory.dump().split(u'\n'))
-        if (!before.contains(line)) changed += line;
-    EXPECT_EQ(changed, QStringList{u"MemoLisNetCampo(1) = True"_s});
+    EXPECT_EQ(changesSince(before), QStringList{u"MemoLisNetCampo(1) = True"_s});
     hands->go(shell::screenNumber(1, shell::Function::ListPrint, 4));
     EXPECT_EQ(grid().Rows(), 0);
     open();

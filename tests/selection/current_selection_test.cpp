@@ -19,7 +19,6 @@ class CurrentSelection : public test::Desk, public ::testing::WithParamInterface
         }
         put({u"Grabacion"_s, u"IdCompositor, IdObra, IdSoporte"_s, {u"1, 1, 1"_s, u"-1, -1, 1"_s}});
         start();
-        hands->go(GetParam() - 6); // the composer's screen of the same function
     }
     /// A selection of one of two records, as its Select screen would leave it.
     void select(Kind kind) {
@@ -34,6 +33,7 @@ class CurrentSelection : public test::Desk, public ::testing::WithParamInterface
         memory.MemoSel.CampoOrden = memory.MemoSel.CriterioOrden = 0;
     }
     void goToRecordings() {
+        hands->go(GetParam() - 6); // the composer's screen of the same function
         hands->clickTab(*program->window.Solapas().TabEntidad[0][std::size_t(GetParam() / 7 - 1)], 6);
     }
     static QString question(const QStringList& kinds) {
@@ -77,14 +77,15 @@ TEST_P(CurrentSelection, CountsAWorkOrAFormatOnlyIfTheRecordingHasOne) {
     program->store.Data(Kind::Grabacion).Recordset().setAbsolutePosition(1);
     boxes.expect(question({u"Format"_s}), box::OkCancel, box::Ok);
     goToRecordings();
+    EXPECT_EQ(program->window.Solapas().VentanaMostrandose, GetParam());
     EXPECT_EQ(memory(Kind::Obra).ContSel, 1);
     EXPECT_EQ(memory(Kind::Soporte).ContSel, 2);
 }
 
 std::string functionName(const ::testing::TestParamInfo<int>& screen) {
-    return screen.param == 14 ? "Select" : "ListPrint";
+    return std::array{"Add", "Select", "ShowEdit", "ListPrint"}.at(std::size_t(screen.param / 7 - 1));
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, CurrentSelection, ::testing::Values(14, 28), functionName);
+INSTANTIATE_TEST_SUITE_P(Screens, CurrentSelection, ::testing::Values(7, 14, 21, 28), functionName);
 
 } // namespace

@@ -42,6 +42,7 @@ TEST_P(SelectWords, EachFieldIsOfferedFilteredAndOrderedBy) {
                     (row.caption == u"Notes" && statement().startsWith(where)))
             << statement().toStdString();
         EXPECT_EQ(selection().Lista, row.caption + u"#Smaller than#'XVIII'#"_s) << "the list tells the word typed";
+        EXPECT_EQ(selection().ValorFiltro, row.caption + u" Smaller than 'XVIII'"_s);
     }
     hands->click(u"BtnNueva"_s);
     hands->paste(u"TxtValFiltro"_s, QString(200, u'9'));

@@ -1,6 +1,6 @@
 // The Select screen of the recordings: the statement that filters on seven tables make, what drops out of it, what a
 // return loses, and how the other channels stand afterwards.
-#include "support/desk.h"
+#include "selection/select_desk.h"
 #include "support/kind_words.h"
 
 using namespace zv;
@@ -9,11 +9,11 @@ using store::Kind;
 
 namespace {
 
-constexpr int SelectNumber = 14;
 const QString All = u"SELECT * FROM Grabacion"_s;
 
-class RecordingSelect : public test::Desk {
+class RecordingSelect : public test::SelectDesk {
   protected:
+    RecordingSelect() : SelectDesk(test::memberOf(Kind::Grabacion)) {}
     /// Nine recordings; 4 and 5 have the same composer and work, 4 and 9 the same conductor.
     void fill() {
         put({u"Compositor"_s, u"Apellidos, Fecha1"_s, {u"'Vega', 1600"_s, u"'Ruiz', 1750"_s, u"'Sol', 1650"_s}});
@@ -35,40 +35,9 @@ class RecordingSelect : public test::Desk {
     void begin() {
         fill();
         start();
-        hands->go(SelectNumber);
-    }
-    void add(const QString& field, const QString& criterion, const QString& value) {
-        hands->choose(u"ComboCampo"_s, field);
-        hands->choose(u"ComboCriterio"_s, criterion);
-        hands->type(u"TxtValFiltro"_s, value);
-        hands->click(u"BtnAnadir"_s);
-    }
-    void selectOne(const QString& field, const QString& criterion, const QString& value) {
-        hands->click(u"BtnNueva"_s);
-        add(field, criterion, value);
-    }
-    void further(const QString& button, const QString& field, const QString& criterion, const QString& value) {
-        hands->click(button);
-        add(field, criterion, value);
-    }
-    void accept() { hands->click(u"BtnAceptar"_s); }
-    void leaveAndReturn() {
-        hands->go(shell::ReportNumber);
-        hands->go(SelectNumber);
+        open();
     }
     QString source(Kind kind) { return program->store.Data(kind).RecordSource; }
-    QString statement() { return source(Kind::Grabacion); }
-    QString found() {
-        const auto keys = program->store.Data(Kind::Grabacion).Recordset().columnTexts(u"IdGrabacion"_s);
-        return QStringList(keys.begin(), keys.end()).join(u' ');
-    }
-    const store::SelectionMemory& selection() { return memory(Kind::Grabacion).MemoSel; }
-    QString rows() {
-        QStringList shown;
-        auto& list = hands->get<forms::ListBox>(u"ListFiltros"_s);
-        for (int i = 0; i < list.ListCount(); ++i) shown += list.item(i)->text();
-        return shown.join(u'|');
-    }
 };
 
 TEST_F(RecordingSelect, MakesOneStatementOfFiltersOnSeveralTables) {
@@ -89,7 +58,7 @@ TEST_F(RecordingSelect, MakesOneStatementOfFiltersOnSeveralTables) {
     accept();
     EXPECT_EQ(statement(),
               All + u" WHERE ((IdCompositor=1 OR IdCompositor=2) AND (IdObra=7) AND IDGrabacion=4 OR IDGrabacion=9)"_s);
-    EXPECT_EQ(found(), u"4 9"_s);
+    EXPECT_EQ(ids(), u"4 9"_s);
     EXPECT_EQ(hands->text(u"LabNumReg"_s) + hands->text(u"LabNumRegFiltros"_s), u"24"_s);
     EXPECT_EQ(memory(Kind::Grabacion).ContSel, 2);
     EXPECT_EQ(memory(Kind::Grabacion).ContFil, 4);
@@ -111,8 +80,8 @@ TEST_F(RecordingSelect, OffersTheFieldsOfSevenTables) {
     auto& list = hands->get<forms::Combo>(u"ComboCampo"_s);
     for (int i = 0; i < list.ListCount(); ++i) offered += list.List(i);
     for (const test::RecordingField& field : test::recordingFields()) {
-        captions += field.filtered;
-        selectOne(field.filtered, u"Smaller than"_s, u"XVIII"_s);
+        captions += field.caption;
+        selectOne(field.caption, u"Smaller than"_s, u"XVIII"_s);
         EXPECT_EQ(hands->text(u"ComboCampoOrden"_s) + hands->text(u"ComboCriterioOrden"_s), u"FieldHistórical"_s);
         const auto at = std::size_t(std::find(clauses.begin(), clauses.end(), field.table) - clauses.begin());
         if (at == clauses.size()) continue;
@@ -144,7 +113,7 @@ TEST_F(RecordingSelect, JoinsTheListsOfAllTablesBehindTheNotes) {
     EXPECT_EQ(statement(), All + u" WHERE ((Notas  = 'live') AND (IdCompositor=1) AND (IdObra=7) AND (IDGrabacion =3 "
                                  "OR IDGrabacion =1) AND (IdSoporte=1) AND IDGrabacion=5 OR IDGrabacion=4 OR "
                                  "IDGrabacion=9 AND IDGrabacion=6 OR IDGrabacion=2)"_s);
-    EXPECT_EQ(found(), u"2 4"_s) << "the bare lists stand on their own";
+    EXPECT_EQ(ids(), u"2 4"_s) << "the bare lists stand on their own";
     EXPECT_EQ(memory(Kind::Grabacion).Posicion, 1);
     EXPECT_EQ(program->store.Data(Kind::Grabacion).Recordset().AbsolutePosition(), 0);
 
@@ -194,7 +163,7 @@ TEST_F(RecordingSelect, WritesTheListOfEachTableInItsOwnWay) {
         selectOne(c.field, c.criterion, c.value);
         accept();
         EXPECT_EQ(statement(), All + u" WHERE "_s + c.where);
-        EXPECT_EQ(found(), c.found);
+        EXPECT_EQ(ids(), c.found);
     }
     selectOne(u"REC Notes"_s, u"Contains"_s, u"live"_s);
     further(u"BtnO"_s, u"REC Notes"_s, u"Same as"_s, u"Live tape"_s);
@@ -209,7 +178,7 @@ TEST_F(RecordingSelect, WidensTheSelectionByWhatMatchesNothing) {
     further(u"BtnY"_s, u"CON Surname"_s, u"Same as"_s, u"Idle"_s);
     accept();
     EXPECT_EQ(statement(), All + u" WHERE ((IdCompositor=3))"_s);
-    EXPECT_EQ(found(), u"2 3 6 7 8 9"_s);
+    EXPECT_EQ(ids(), u"2 3 6 7 8 9"_s);
 }
 
 TEST_F(RecordingSelect, LosesItsClausesOnAReturn) {
@@ -224,7 +193,7 @@ TEST_F(RecordingSelect, LosesItsClausesOnAReturn) {
         if (another) further(u"BtnO"_s, u"FOR Record Company"_s, u"Same as"_s, u"Zeta"_s);
         accept();
         EXPECT_EQ(statement(), All + (another ? u" WHERE ((IdSoporte=2))"_s : u" WHERE IdGrabacion=-1"_s));
-        EXPECT_EQ(found(), another ? u"3"_s : u""_s);
+        EXPECT_EQ(ids(), another ? u"3"_s : u""_s);
     }
     EXPECT_EQ(selection().ValorFiltro, u"((COM Surname Same as 'Sol' AND WOR No. of  Movements Smaller than 'x')  OR "
                                        "FOR Record Company Same as 'Zeta') "_s);
@@ -237,13 +206,13 @@ TEST_F(RecordingSelect, SelectsAllAndEmptiesTheComposersList) {
     hands->go(8);
     selectOne(u"Surname"_s, u"Same as"_s, u"Sol"_s);
     EXPECT_EQ(memory(Kind::Compositor).MemoSel.Lista, u"Surname#Same as#'Sol'#"_s);
-    hands->go(SelectNumber);
+    open();
     hands->click(u"BtnTodo"_s);
     EXPECT_EQ(selection().Lista, u"#"_s) << "at once, though the accepted selection stands";
     leaveAndReturn();
     EXPECT_EQ(rows(), QString());
     EXPECT_EQ(hands->text(u"LabNumReg"_s) + hands->text(u"LabNumRegFiltros"_s), u"11"_s);
-    EXPECT_EQ(found(), u"3"_s);
+    EXPECT_EQ(ids(), u"3"_s);
     hands->click(u"BtnTodo"_s);
     EXPECT_NE(memory(Kind::Compositor).MemoSel.Lista, u"#"_s) << "not before it is accepted";
     accept();
@@ -260,7 +229,7 @@ TEST_F(RecordingSelect, PutsTheChannelsBackOnlyWhenAllIsWell) {
     selectOne(u"COM Surname"_s, u"Contains"_s, u"o"_s);
     further(u"BtnY"_s, u"CON Surname"_s, u"Same as"_s, u"Vega"_s);
     accept();
-    EXPECT_EQ(found(), u"9"_s);
+    EXPECT_EQ(ids(), u"9"_s);
     store::Store& store = program->store;
     EXPECT_EQ(source(Kind::Compositor), u"SELECT * FROM Compositor"_s);
     EXPECT_EQ(source(Kind::Director), u"SELECT * FROM Director"_s);
@@ -275,7 +244,7 @@ TEST_F(RecordingSelect, PutsTheChannelsBackOnlyWhenAllIsWell) {
     boxes.expect(u"Has occurred Error: 3075"_s, box::Critical);
     accept();
     EXPECT_EQ(statement(), All);
-    EXPECT_EQ(found(), u"1 2 3 4 5 6 7 8 9"_s);
+    EXPECT_EQ(ids(), u"1 2 3 4 5 6 7 8 9"_s);
     EXPECT_EQ(source(Kind::Compositor), u"SELECT * FROM Compositor WHERE Apellidos LIKE '*o*'"_s);
     EXPECT_EQ(store.Data(Kind::Compositor).Recordset().RecordCount(), 1);
     EXPECT_EQ(memory(Kind::Grabacion).ContSel, 1) << "of the selection before";
@@ -283,7 +252,7 @@ TEST_F(RecordingSelect, PutsTheChannelsBackOnlyWhenAllIsWell) {
     EXPECT_EQ(selection().NT, 2);
     selectOne(u"COM Surname"_s, u"Same as"_s, u"Vega"_s);
     accept();
-    EXPECT_EQ(found(), u"4 5"_s) << "a good selection after the bad one";
+    EXPECT_EQ(ids(), u"4 5"_s) << "a good selection after the bad one";
     EXPECT_EQ(source(Kind::Compositor), u"SELECT * FROM Compositor"_s);
 }
 
@@ -294,14 +263,14 @@ TEST_F(RecordingSelect, CountsTheMatchesOfATableInSixteenBits) {
     put(many);
     put({u"Grabacion"_s, u"IdObra"_s, {u"32767"_s, u"32768"_s}});
     start();
-    hands->go(SelectNumber);
+    open();
     selectOne(u"WOR Work"_s, u"Same as"_s, u"a"_s);
     accept();
-    EXPECT_EQ(found(), u"1"_s);
+    EXPECT_EQ(ids(), u"1"_s);
     selectOne(u"WOR Work"_s, u"Contains"_s, u"a"_s);
     boxes.expect(u"Has occurred Error: 6"_s, box::Critical);
     accept();
-    EXPECT_EQ(found(), u"1 2"_s);
+    EXPECT_EQ(ids(), u"1 2"_s);
 }
 
 } // namespace

@@ -41,6 +41,11 @@ class SelectDesk : public Desk {
         hands->click(u"BtnNueva"_s);
         add(field, criterion, value);
     }
+    /// A further filter on the one before.
+    void further(const QString& button, const QString& field, const QString& criterion, const QString& value) {
+        hands->click(button);
+        add(field, criterion, value);
+    }
     void order(const QString& field, const QString& criterion) {
         hands->choose(u"ComboCampoOrden"_s, field);
         hands->choose(u"ComboCriterioOrden"_s, criterion);
@@ -51,15 +56,14 @@ class SelectDesk : public Desk {
     QString statement() { return program->store.Data(m.kind).RecordSource; }
     /// Keys of the records on the channel, in order.
     QString ids() {
-        jet::DataControl& data = program->store.Data(m.kind);
-        jet::Recordset& rows = data.Recordset();
-        QStringList keys;
-        if (rows.RecordCount() != 0) rows.MoveLast();
-        for (int i = 0; i < rows.RecordCount(); ++i) {
-            rows.setAbsolutePosition(i);
-            keys += data.boundText(m.info().key().column.toString());
-        }
-        return keys.join(u' ');
+        const auto keys = program->store.Data(m.kind).Recordset().columnTexts(m.info().key().column.toString());
+        return QStringList(keys.begin(), keys.end()).join(u' ');
+    }
+    QString rows() {
+        QStringList shown;
+        auto& list = hands->get<forms::ListBox>(u"ListFiltros"_s);
+        for (int i = 0; i < list.ListCount(); ++i) shown += list.item(i)->text();
+        return shown.join(u'|');
     }
     /// What the screen shows and lets do. "+" behind a list: its placeholder row is in, "-": it is not.
     QString state() {
@@ -68,9 +72,7 @@ class SelectDesk : public Desk {
             return list.Text().trimmed() + (list.findText(placeholder.toString()) >= 0 ? u" +"_s : u" -"_s);
         };
         const QString empty(14, u' '), criteria(12, u' ');
-        QStringList rows, enabled;
-        auto& filters = hands->get<forms::ListBox>(u"ListFiltros"_s);
-        for (int i = 0; i < filters.ListCount(); ++i) rows += filters.item(i)->text();
+        QStringList enabled;
         for (const QString& name :
              {u"BtnNueva"_s, u"BtnTodo"_s, u"BtnAnadir"_s, u"BtnY"_s, u"BtnO"_s, u"BtnAceptar"_s, u"ComboCampo"_s,
               u"ComboCriterio"_s, u"TxtValFiltro"_s, u"ComboCampoOrden"_s, u"ComboCriterioOrden"_s})
@@ -80,7 +82,7 @@ class SelectDesk : public Desk {
                 chosen(u"ComboCriterio"_s, criteria + u"CRITERIA"_s) + u" | "_s + hands->text(u"TxtValFiltro"_s),
             u"Order "_s + chosen(u"ComboCampoOrden"_s, empty + u"FIELD"_s) + u" | "_s +
                 hands->text(u"ComboCriterioOrden"_s),
-            u"Rows "_s + rows.join(u'|'),
+            u"Rows "_s + rows(),
             u"Text ["_s + hands->text(u"LabOpcionSQL"_s) + u"] tip ["_s +
                 hands->get<forms::Memo>(u"LabOpcionSQL"_s).ToolTipText() + u']',
             u"Records "_s + hands->text(u"LabNumRegTotal"_s) + u", filters "_s + hands->text(u"LabNumFiltros"_s) +
@@ -94,14 +96,6 @@ class SelectDesk : public Desk {
         QString wanted = lines.join(u'\n');
         wanted.replace(u"FIRST"_s, m.first).replace(u"TEXT"_s, m.text).replace(u"NUMBER"_s, m.number);
         EXPECT_EQ(state().toStdString(), wanted.toStdString());
-    }
-    /// Lines of the working memory that differ from an earlier dump.
-    QStringList changesSince(const QString& before) {
-        const QStringList old = before.split(u'\n'), now = program->store.memory.dump().split(u'\n');
-        QStringList changed;
-        for (qsizetype i = 0; i < now.size(); ++i)
-            if (old.value(i) != now[i]) changed += now[i];
-        return changed;
     }
     QString nameOf(const char* before, const char* after) const {
         return QLatin1String(before) + m.info().shortName.toString() + QLatin1String(after);

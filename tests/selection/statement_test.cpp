@@ -11,31 +11,6 @@ class SelectComposer : public test::SelectDesk {
     SelectComposer() : SelectDesk(test::members().front()) {}
 };
 
-TEST_F(SelectComposer, WritesOneTermForEachKindOfFilter) {
-    start();
-    open();
-    struct Case {
-        QString field, criterion, value, clause;
-    };
-    for (const Case& c : {
-             Case{u"Surname"_s, u"Same as"_s, u"Vega"_s, u"Apellidos = 'Vega'"_s},
-             Case{u"Notes"_s, u"Does not contain"_s, u"opera"_s, u"Notas NOT LIKE '*opera*'"_s},
-             Case{u"Date 1"_s, u"Bigger than"_s, u"1700"_s, u"Fecha1 > 1700"_s},
-             Case{u"Date 1"_s, u"Contains"_s, u"17"_s, u"Fecha1 LIKE '*17*'"_s},
-             Case{u"Date 1"_s, u"Same as"_s, u"abc"_s, u"Fecha1 = -1"_s},
-             Case{u"Date 1"_s, u"Contains"_s, u"abc"_s, u"Fecha1 LIKE '*-1*'"_s},
-             Case{u"Date 2"_s, u"Smaller than"_s, u"1x"_s, u"Fecha2 < -1"_s},
-             Case{u"Date 1"_s, u"Same as"_s, u" 1"_s, u"Fecha1 =  1"_s},
-             Case{u"Name"_s, u"Contains"_s, u"*"_s, u"Nombre LIKE '***'"_s},
-         }) {
-        selectOne(c.field, c.criterion, c.value);
-        EXPECT_EQ(selection().OpcionSQL, c.clause);
-        EXPECT_EQ(selection().ValorFiltro, c.field + u' ' + c.criterion + u" '"_s + c.value + u'\'')
-            << "the value as it was typed";
-        EXPECT_EQ(selection().Lista, c.field + u'#' + c.criterion + u"#'"_s + c.value + u"'#"_s);
-    }
-}
-
 TEST_F(SelectComposer, OpensParenthesesOnTheLeft) {
     put({u"Compositor"_s,
          u"Apellidos, Fecha1, Fecha2, Notas"_s,

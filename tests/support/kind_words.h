@@ -30,9 +30,9 @@ struct KindWords {
     const store::KindInfo& info() const { return store::info(kind); }
 };
 
-/// A field of the recordings' lists: caption in Select, table and column, and the caption in List.
+/// A field of the recordings' filters: caption, table and column.
 struct RecordingField {
-    QString filtered, table, column, listed;
+    QString caption, table, column;
     bool numeric;
 };
 
@@ -43,20 +43,19 @@ inline std::vector<RecordingField> recordingFields() {
         u"WOR Opus=Obra.Opus|WOR Opus No.=Obra.NumeroOpus|WOR Catalogue=Obra.Catalogo|"
         u"WOR Catalogue No.=Obra.NumeroCatalogo|WOR Date 1=Obra.Fecha1*|WOR Date 2=Obra.Fecha2*|"
         u"WOR Subtitle=Obra.Subtitulo|WOR Movements=Obra.Movimientos|WOR Total Time=Obra.TiempoTotal*|"
-        u"WOR No. of  Movements=Obra.NumeroMovimientos*=WOR No. of  Mov|ORC Orc-Ens-Cho=Orquesta.Nombre|"
-        u"CON Name=Director.Nombre|CON Surname=Director.Apellidos|PER Name=Interprete.Nombre|"
-        u"PER Surname=Interprete.Apellidos|PER Instrument-Voice=Interprete.Instrumento=PER Ins-Voice|"
-        u"FOR Record Company=Soporte.Discografica=FOR Rec Company|FOR Catalogue No.=Soporte.NumeroCatalogo|"
-        u"FOR Collection=Soporte.Coleccion|FOR No.-Reference=Soporte.NumeroReferencia|FOR Format=Soporte.Formato|"
-        u"FOR Recording=Soporte.Grabacion|FOR ( P )=Soporte.Recopilacion|FOR ( C )=Soporte.Edicion|"
-        u"FOR Location=Soporte.Emplazamiento|REC Notes=Grabacion.Notas";
+        u"WOR No. of  Movements=Obra.NumeroMovimientos*|ORC Orc-Ens-Cho=Orquesta.Nombre|CON Name=Director.Nombre|"
+        u"CON Surname=Director.Apellidos|PER Name=Interprete.Nombre|PER Surname=Interprete.Apellidos|"
+        u"PER Instrument-Voice=Interprete.Instrumento|FOR Record Company=Soporte.Discografica|"
+        u"FOR Catalogue No.=Soporte.NumeroCatalogo|FOR Collection=Soporte.Coleccion|"
+        u"FOR No.-Reference=Soporte.NumeroReferencia|FOR Format=Soporte.Formato|FOR Recording=Soporte.Grabacion|"
+        u"FOR ( P )=Soporte.Recopilacion|FOR ( C )=Soporte.Edicion|FOR Location=Soporte.Emplazamiento|"
+        u"REC Notes=Grabacion.Notas";
     std::vector<RecordingField> found;
     for (const QString& field : Words.toString().split(u'|')) {
-        const QStringList parts = field.split(u'=');
-        QString column = parts[1].section(u'.', 1);
+        const QString column = field.section(u'.', -1);
         const bool numeric = column.endsWith(u'*');
-        if (numeric) column.chop(1);
-        found.push_back({parts[0], parts[1].section(u'.', 0, 0), column, parts.value(2, parts[0]), numeric});
+        found.push_back({field.section(u'=', 0, 0), field.section(u'=', 1).section(u'.', 0, 0),
+                         column.chopped(numeric ? 1 : 0), numeric});
     }
     return found;
 }
