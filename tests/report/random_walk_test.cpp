@@ -142,8 +142,7 @@ class RandomWalk : public ReportDesk, public ::testing::WithParamInterface<unsig
         case 0:
             go(Kind::Grabacion, Function::Add);
             hands->click(u"LabSoporte"_s);
-            boxes.expect(store::MensaGrabadoBien, box::Information);
-            hands->click(u"BtnGuardar"_s);
+            save();
             countAdd(Kind::Grabacion);
             break;
         case 1: removeOne(Kind::Grabacion); break;

@@ -78,20 +78,9 @@ class ReportDesk : public Desk {
             if (first != labels.end() && label->y() == (*first)->y()) words += of(label);
         return words.join(u'|');
     }
-    /// Groupings by their entity.
-    void selectGroupings(const QString& entity) {
-        hands->go(37);
-        hands->click(u"BtnNueva"_s);
-        hands->choose(u"ComboCampo"_s, u"Entity"_s);
-        hands->choose(u"ComboCriterio"_s, u"Same as"_s);
-        hands->type(u"TxtValFiltro"_s, entity);
-        hands->click(u"BtnAnadir"_s);
-        hands->click(u"BtnAceptar"_s);
-    }
     void add(const QString& box, const QString& text) {
         hands->type(box, text);
-        boxes.expect(store::MensaGrabadoBien, box::Information);
-        hands->click(u"BtnGuardar"_s);
+        save();
     }
 };
 

@@ -45,58 +45,6 @@ TEST_F(ReportTest, everyCountOfFiveDigitsCanBeRead) {
     }
 }
 
-// Adds, an undo, a removal, a selection, a list: what the screens did is what the report tells.
-TEST_F(ReportTest, tellsWhatTheScreensDid) {
-    put({u"Compositor"_s, u"Apellidos, Fecha1"_s, {u"'Vega', 1700"_s, u"'Arriaga', 1806"_s, u"'Zubiri', 1850"_s}});
-    put({u"Soporte"_s, u"Discografica, NumeroCatalogo"_s, {u"'Blau', '1'"_s, u"'Blau', '2'"_s}});
-    put({u"Agrupacion"_s, u"Entidad"_s, {u"'Coro'"_s, u"'Banda'"_s}});
-    start();
-    hands->go(1);
-    add(u"TxtApellidos"_s, u"Mora"_s);
-    add(u"TxtApellidos"_s, u"Sol"_s);
-    hands->click(u"BtnDeshacer"_s);
-    hands->go(15);
-    hands->type(u"TxtOrden"_s, u"2"_s);
-    boxes.expect(store::MensaEliRegPosibleGrabacion, box::YesNoInformation, box::Yes);
-    hands->click(u"BtnEliminar"_s);
-    hands->click(u"BtnGuardar"_s);
-    selectGroupings(u"Banda"_s);
-    hands->go(51);
-    hands->tick({u"Entity"_s, u"City"_s, u"Image"_s});
-    hands->click(u"BtnListar"_s);
-    hands->go(30);
-    add(u"TxtEntidad"_s, u"Duo"_s); // the selection is whole again
-    hands->go(15);
-    hands->type(u"TxtOrden"_s, u"3"_s);
-    open();
-    EXPECT_EQ(row(u"LabCom"_s), u"3 1 1 3 0 3 0 0 3"_s);
-    EXPECT_EQ(row(u"LabSop"_s), u"2 0 0 2 0 2 0 0 1"_s);
-    EXPECT_EQ(row(u"LabAgr"_s), u"3 1 0 3 0 3 0 3 1"_s);
-    EXPECT_EQ(row(u"LabSuma"_s), u"8 2 1 8 0 8 0 3 -"_s);
-    EXPECT_EQ(products(), u"61 61 9"_s); // 3 x 6 + 2 x 11 + 3 x 7; 3 x 3
-    for (const Row& r : Rows14) {
-        const QString order = hands->text(r.prefix + u"Orden"_s);
-        EXPECT_EQ(row(r.prefix), remembered(r.kind, order)) << r.prefix.toStdString();
-    }
-}
-
-// The last row of a filter counts as the table's: the total no longer tells the rows that the filter left out.
-TEST_F(ReportTest, removingTheLastRowOfAFilterLeavesNoRecord) {
-    put({u"Agrupacion"_s, u"Entidad"_s, {u"'Coro'"_s, u"'Banda'"_s, u"'Trio'"_s}});
-    start();
-    selectGroupings(u"Banda"_s);
-    hands->go(44);
-    hands->click(u"BtnEliminar"_s);
-    hands->click(u"BtnGuardar"_s);
-    open();
-    EXPECT_EQ(row(u"LabAgr"_s), u"0 0 1 0 1 0 1 0 0"_s);
-    hands->go(30);
-    add(u"TxtEntidad"_s, u"Duo"_s);
-    open();
-    EXPECT_EQ(row(u"LabAgr"_s), u"1 1 1 1 0 1 0 0 1"_s);
-    EXPECT_EQ(stored(u"Agrupacion"_s, u"Entidad"_s), (QStringList{u"Coro"_s, u"Trio"_s, u"Duo"_s}));
-}
-
 // Every variable of every kind on its own label: no two of them alike.
 TEST_F(ReportTest, everyFigureIsItsOwnVariable) {
     start();

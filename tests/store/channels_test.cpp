@@ -112,24 +112,5 @@ TEST_F(Channels, aFailureSetsTheFlagAndItsNumberSurvives) {
     EXPECT_EQ(boxes.shown, QStringList{u"16: Has occurred Error: 3164"_s});
 }
 
-TEST_F(Channels, aRowThatAnotherProgramRemovedIsAFailureOfTheWrite) {
-    loadWith({u"one"_s, u"two"_s});
-    sql(u"DELETE FROM Compositor"_s);
-    write(false, u"changed"_s);
-    EXPECT_EQ(errorState(), u"set 3167"_s);
-    store.module1 = {};
-    store.EliminarRegistro(0);
-    EXPECT_EQ(errorState(), u"set 3167"_s);
-    EXPECT_EQ(boxes.shown, QStringList{});
-}
-
-TEST_F(Channels, theFileIsLetGoAtTheEnd) {
-    loadWith({u"one"_s});
-    const QString copy = folder.filePath(CompactedFile);
-    EXPECT_THROW(engine.CompactDatabase(file(), copy), RuntimeError);
-    store.unload();
-    EXPECT_NO_THROW(engine.CompactDatabase(file(), copy));
-}
-
 } // namespace
 } // namespace zv::store::test

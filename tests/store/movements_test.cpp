@@ -8,17 +8,6 @@ using namespace Qt::StringLiterals;
 namespace zv::store {
 namespace {
 
-TEST(Movements, aTimeIsSplitAndTold) {
-    struct Case {
-        double seconds;
-        const char* told;
-    };
-    for (const Case& c : {Case{0, "00:00:00"}, Case{9, "00:00:09"}, Case{58, "00:00:58"}, Case{59, "00:00:59"},
-                          Case{60, "00:01:00"}, Case{3599, "00:59:59"}, Case{3600, "01:00:00"}, Case{3602, "01:00:02"},
-                          Case{3659, "01:00:59"}, Case{3725, "01:02:05"}, Case{360000, "100:00:00"}})
-        EXPECT_EQ(clockText(splitSeconds(c.seconds)).toStdString(), c.told) << c.seconds;
-}
-
 TEST(Movements, theListsAreReadToTheirLastSeparator) {
     EXPECT_EQ(movementNames(u"Allegro# Andante #"_s), (std::vector{u"Allegro"_s, u" Andante "_s}));
     EXPECT_EQ(movementNames(u"a##b"_s), (std::vector{u"a"_s, QString()})) << "what is not ended is no movement";

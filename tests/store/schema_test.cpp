@@ -39,12 +39,6 @@ QStringList described(const QString& table, std::span<const Field> fields) {
     return found;
 }
 
-/// A value that fits the field, different for each.
-QString sample(const Field& field, int n) {
-    if (field.value == Value::Number || field.value == Value::Year) return QString::number(n);
-    return QStringLiteral("%1 %2").arg(n).arg(field.column).left(field.limit == 0 ? 100 : field.limit);
-}
-
 TEST_F(Schema, theDescriptionsHoldEveryFieldWithItsLimitAndItsBoundControl) {
     QStringList found;
     for (const int form : {1, 2}) {
@@ -75,55 +69,6 @@ TEST_F(Schema, aNewFileHasTheColumnsInTypesThatAnyToolUnderstands) {
         EXPECT_EQ(found.join(u'\n').toStdString(), columns.join(u'\n').toStdString()) << table.toStdString();
         EXPECT_EQ(rows(u"SELECT count(*) FROM "_s + table), QStringList{u"0"_s});
     }
-}
-
-TEST_F(Schema, everyFieldIsReadBackThroughItsBoundControl) {
-    load();
-    for (const KindInfo& kind : kinds()) {
-        Campos campos;
-        QStringList wanted;
-        int columns = 0;
-        for (const Field& field : kind.fields) {
-            wanted += field.value == Value::Key ? u"1"_s : sample(field, columns + 1);
-            if (field.value != Value::Key) campos.set(columns++, field.column, wanted.last());
-        }
-        store.write(kind, columns, true, campos);
-        ASSERT_FALSE(store.module1.ErrorBaseDatos) << kind.table.toString().toStdString() << store.module1.Err;
-        QStringList found;
-        for (int i = 0; i < static_cast<int>(kind.fields.size()); ++i) found += store.bound(kind.kind, i);
-        EXPECT_EQ(found, wanted) << kind.table.toString().toStdString();
-    }
-    for (const LinkInfo& link : links()) {
-        Campos campos;
-        campos.set(0, link.fields[0].column, u"1"_s);
-        campos.set(1, link.fields[1].column, u"-1"_s);
-        store.Data(1, link.channel).Refresh();
-        store.GrabarRegistro(link.channel, 2, true, campos);
-        EXPECT_EQ(store.Data(1, link.channel).boundText(link.fields[0].column.toString()), u"1"_s);
-        EXPECT_EQ(store.Data(1, link.channel).boundText(link.fields[1].column.toString()), u"-1"_s);
-    }
-}
-
-TEST_F(Schema, keysRiseAndAreNotGivenTwice) {
-    sql(u"INSERT INTO Compositor(Apellidos) VALUES('one'), ('two')"_s);
-    sql(u"DELETE FROM Compositor WHERE Id = 2"_s);
-    load();
-    Campos campos;
-    campos.set(0, u"Apellidos", u"three"_s);
-    store.GrabarRegistro(0, 1, true, campos);
-    EXPECT_EQ(rows(u"SELECT Id, Apellidos FROM Compositor"_s), (QStringList{u"1|one"_s, u"3|three"_s}));
-}
-
-TEST_F(Schema, tabsAndChannelsAreInTheirOwnOrders) {
-    QStringList byTab;
-    for (const int form : {1, 2})
-        for (int tab = 0; tab < 7; ++tab)
-            byTab += kindOfTab(form, tab).table.toString() + u' ' + QString::number(kindOfTab(form, tab).channel) +
-                     u' ' + QString::number(kindOfTab(form, tab).fieldCount);
-    EXPECT_EQ(byTab.join(u'\n').toStdString(),
-              "Compositor 0 6\nObra 1 16\nOrquesta 3 5\nDirector 2 6\nInterprete 5 7\n"
-              "Soporte 4 11\nGrabacion 6 39\nInstrumento 0 7\nAgrupacion 1 7\n"
-              "Evento 2 7\nEscenario 3 7\nPublicacion 4 10\nEmisora 5 8\nInternet 6 7");
 }
 
 } // namespace
