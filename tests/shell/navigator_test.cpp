@@ -112,22 +112,6 @@ TEST_F(NavigatorTest, reportAboutAndHelpKeepThePosition) {
     }
 }
 
-TEST_F(NavigatorTest, helpOpensOnThePageShownLast) {
-    hands->go(59);
-    strip().AyudaAnadir = 60;
-    strip().AyudaMostrar = 65;
-    strip().AyudaListar = 67;
-    hands->go(1);
-    click(strip().TabNivel1, 3);
-    EXPECT_EQ(screen(), u"60 FormAyudaAnadir2"_s) << "The tab of help is where it was.";
-    click(strip().TabAyuda, 3);
-    EXPECT_EQ(screen(), u"65 FormAyudaMostrar3"_s);
-    click(strip().TabAyuda, 4);
-    EXPECT_EQ(screen(), u"67 FormAyudaListar2"_s);
-    click(strip().TabAyuda, 0);
-    EXPECT_EQ(screen(), u"58 FormAyudaGeneral"_s);
-}
-
 TEST_F(NavigatorTest, lockedTabsTakeNoClickUnlessTheyAreHeld) {
     const auto enabled = [this] {
         QStringList names;
@@ -181,28 +165,6 @@ TEST_F(NavigatorTest, theWayBackToAnAddedRecordingUnloadsItsOwnScreen) {
     EXPECT_FALSE(program->store.module1.SolapasFijas);
     EXPECT_TRUE(strip().TabNivel1->isEnabled());
     EXPECT_EQ(loadedScreens(), 1);
-}
-
-TEST_F(NavigatorTest, theWayBackToAShownRecordingKeepsTheTabsLocked) {
-    strip().BloquearSolapas(true);
-    program->store.module1.RegresoMosGrabacion = true;
-    program->store.module1.SolapasFijas = true;
-    strip().TabRegistros1_Click();
-    ASSERT_EQ(screen(), u"15 FormReg1MosCompositor"_s);
-    hands->click(u"BtnRegresar"_s);
-    EXPECT_EQ(screen(), u"21 FormReg1MosGrabacion"_s);
-    EXPECT_TRUE(program->store.module1.SolapasFijas);
-    EXPECT_FALSE(strip().TabNivel1->isEnabled());
-    EXPECT_TRUE(strip().isEnabled());
-}
-
-TEST_F(NavigatorTest, theWayBackIsNoWayWithoutARecording) {
-    auto& back = hands->get<forms::Button>(u"BtnRegresar"_s);
-    EXPECT_EQ(back.Left(), 4800);
-    EXPECT_EQ(back.Top(), 7230);
-    back.setFocus();
-    QTest::keyClick(&back, Qt::Key_Space);
-    EXPECT_EQ(screen(), u"15 FormReg1MosCompositor"_s);
 }
 
 } // namespace

@@ -69,14 +69,6 @@ TEST_F(Order, theTabThatIsShownIsNotLoadedAgain) {
     EXPECT_EQ(events(), "");
 }
 
-TEST_F(Order, aResizeNeitherLoadsNorFills) {
-    const QWidget* screen = find(u"Form15"_s);
-    window->resize(1920, 1080);
-    window->resize(800, 700);
-    EXPECT_EQ(events(), "");
-    EXPECT_EQ(find(u"Form15"_s), screen);
-}
-
 TEST_F(Order, aHandlerMayUnloadItsOwnForm) {
     onButton = [this](int) {
         strip().SolapaRegistros1 = 6;

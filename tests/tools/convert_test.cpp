@@ -37,7 +37,7 @@ class Convert : public testing::Test {
     Outcome convert(const QByteArray& bytes) {
         write(old, bytes);
         Outcome outcome = call({u"convert"_s, old, folder});
-        EXPECT_EQ(contents(old), bytes);
+        EXPECT_EQ(bytesOf(old), bytes);
         return outcome;
     }
 
@@ -75,7 +75,7 @@ class ConvertGenuine : public Convert {
         if (!QDir(kept).exists()) GTEST_SKIP() << "There are no genuine old files in " << kept.toStdString();
     }
 
-    QByteArray genuine(const QString& name) { return contents(kept + name); }
+    QByteArray genuine(const QString& name) { return bytesOf(kept + name); }
 
     /// The genuine file with two column names of equal length exchanged, in the table that has a third.
     QByteArray renamed(const QString& inTableWith, const QString& from, const QString& to) {
@@ -124,7 +124,7 @@ TEST_F(Convert, LeavesWhatIsThere) {
     const Outcome outcome = convert(jetHeader() + QByteArray(5 * kPage - 24, '\0'));
     EXPECT_EQ(outcome.status, 1);
     EXPECT_TRUE(outcome.words.contains(u"is there already"_s)) << outcome.words.toStdString();
-    EXPECT_EQ(contents(made), "mine");
+    EXPECT_EQ(bytesOf(made), "mine");
     // The old catalogue may bear the very name under which the copy is made.
     QFile::remove(made);
     old = made + u"-part"_s;

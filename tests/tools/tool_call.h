@@ -1,9 +1,11 @@
 // Calls the companion tool as a shell would.
 #pragma once
 
-#include <QFile>
+#include "support/file_bytes.h"
 #include <QProcess>
 #include <gtest/gtest.h>
+
+using zv::test::bytesOf, zv::test::write;
 
 struct Outcome {
     int status;
@@ -18,15 +20,4 @@ inline Outcome call(const QStringList& arguments) {
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardError()),
             QString::fromLocal8Bit(process.readAllStandardOutput())};
-}
-
-inline QByteArray contents(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
-
-inline void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }

@@ -26,11 +26,11 @@ TEST(Tool, MakesAnEmptyCatalogueOnce) {
         }
         EXPECT_EQ(count, 17);
     }
-    const QByteArray before = contents(file);
+    const QByteArray before = bytesOf(file);
     const Outcome again = call({u"new"_s, folder});
     EXPECT_EQ(again.status, 1);
     EXPECT_TRUE(again.words.contains(u"DataZV.mdb is there already"_s)) << again.words.toStdString();
-    EXPECT_EQ(contents(file), before);
+    EXPECT_EQ(bytesOf(file), before);
 }
 
 TEST(Tool, RefusesFoldersThatItCannotUse) {

@@ -52,29 +52,14 @@ TEST(Text, readsTheNumberAtTheHead) {
         QString text;
         double value;
     };
-    for (const Case& one : {Case{u" 2 45 7"_s, 2457},
-                            {u"- 5"_s, -5},
-                            {u"1,700"_s, 1},
-                            {u"$5"_s, 0},
-                            {u"(5)"_s, 0},
-                            {u"5-"_s, 5},
-                            {u"1e3"_s, 1000},
-                            {u"1d3"_s, 1000},
-                            {u"1e"_s, 1},
-                            {u"1e-"_s, 1},
-                            {u"&HFFFF"_s, -1},
-                            {u"&H10x"_s, 16},
-                            {u"&H"_s, 0},
-                            {u"50%"_s, 50},
-                            {u"12\n3 abc"_s, 123},
-                            {u"12\r3"_s, 12},
-                            {u""_s, 0},
-                            {u"-"_s, 0},
-                            {u"."_s, 0},
-                            {u"1.2.3"_s, 1.2},
-                            {u" -1"_s, -1},
-                            {u".5"_s, 0.5}})
+    for (const Case& one : {Case{u"- 5"_s, -5}, {u"1,700"_s, 1},  {u"$5"_s, 0},      {u"(5)"_s, 0},    {u"5-"_s, 5},
+                            {u"1e3"_s, 1000},   {u"1d3"_s, 1000}, {u"1e"_s, 1},      {u"1e-"_s, 1},    {u"&HFF"_s, 255},
+                            {u"&H10x"_s, 16},   {u"&H"_s, 0},     {u"50%"_s, 50},    {u"12\r3"_s, 12}, {u""_s, 0},
+                            {u"-"_s, 0},        {u"."_s, 0},      {u"1.2.3"_s, 1.2}, {u" -1"_s, -1},   {u".5"_s, 0.5}})
         EXPECT_EQ(Val(one.text), one.value) << one.text.toStdString();
+    EXPECT_EQ(Val(u" 2 45 7"_s), 2457);
+    EXPECT_EQ(Val(u"12\n3 abc"_s), 123);
+    EXPECT_EQ(Val(u"&HFFFF"_s), -1);
     EXPECT_EQ(errorOf([] { Val(u"50.5%"); }), 13);
     EXPECT_EQ(errorOf([] { Val(u"1e400"); }), 6);
 }

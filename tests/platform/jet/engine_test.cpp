@@ -1,10 +1,12 @@
 // Files: what is opened, what is refused and how, new files and compacted ones.
 #include "catalogue.h"
+#include "support/file_bytes.h"
 #include <QDir>
 #include <QFile>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
+using zv::test::bytesOf, zv::test::write;
 
 namespace zv::jet::test {
 namespace {
@@ -13,18 +15,6 @@ const QString kAll = u"SELECT * FROM Compositor"_s;
 
 class EngineTest : public testing::Test {
   protected:
-    static QByteArray bytesOf(const QString& path) {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
-    static void write(const QString& path, const QByteArray& bytes) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(bytes);
-    }
-
     QString at(const QString& name) const { return catalogue.folder.filePath(name); }
     QString files() const { return QDir(catalogue.folder.path()).entryList(QDir::Files).join(u' '); }
 
