@@ -41,7 +41,10 @@ QStringList FormReg1LisGrabacion::itemCaptions() const {
 
 bool FormReg1LisGrabacion::isNumber(int item) const { return itemAt(item).isNumber(); }
 
-bool FormReg1LisGrabacion::areLinesLevel(int item) const { return isGroup(itemAt(item).source); }
+// The names of orchestras have no column beside them.
+bool FormReg1LisGrabacion::areLinesLevel(int item) const {
+    return isGroup(itemAt(item).source) && itemAt(item).source != Kind::Orquesta;
+}
 
 QString FormReg1LisGrabacion::picturePath() { return parts_.part(Kind::Soporte).text(u"Imagen"); }
 
