@@ -22,7 +22,7 @@ using store::Kind;
 
 namespace {
 
-constexpr int SelectNumber = 14, ListNumber = 28;
+constexpr int SelectNumber = 14, ShowEditNumber = 21, ListNumber = 28;
 
 void fail(const QString& words) {
     std::printf("%s\n", qPrintable(words));
@@ -105,6 +105,19 @@ void list(Table& table, Desk& desk) {
     table.line("List page, 34 items / 150 ms", medianOf(pages), 0.15, 1);
 }
 
+/// Each step of the bar shows a recording with all its parts; the screen is painted.
+void walk(Table& table, Desk& desk) {
+    desk.hands.go(ShowEditNumber);
+    auto& bar = desk.hands.get<forms::ScrollBar>(u"HScroll"_s);
+    std::vector<double> steps;
+    for (int i = 0; i < 101; ++i)
+        steps.push_back(secondsOf([&] {
+            bar.setValue(bar.Max() / 102 * i + 2);
+            desk.hands.screen()->grab();
+        }));
+    table.line("Next recording, shown and painted / 30 ms", medianOf(steps), 0.03, 1);
+}
+
 void print(Table& table, Desk& desk) {
     const auto seconds = [&](int records) {
         auto& channel = desk.program.store.Data(Kind::Grabacion);
@@ -128,6 +141,8 @@ bool run(const QString& catalogue) {
     Desk desk(folder.path());
     select(table, desk, file);
     list(table, desk);
+    walk(table, desk);
+    desk.hands.go(ListNumber);
     print(table, desk);
     return table.allHold();
 }
