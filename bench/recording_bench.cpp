@@ -5,10 +5,8 @@
 //   build/bench/bench/zv_bench_recordings [CATALOGUE]
 //
 // A catalogue is copied and measured in place of the made one. Ends with 1 if a target is missed.
-#include "driver/driver.h"
+#include "desk.h"
 #include "measure.h"
-#include "platform/forms/look_style.h"
-#include "platform/printing/printer_dialog.h"
 #include "recording_catalogue.h"
 #include <QApplication>
 #include <QFile>
@@ -23,29 +21,6 @@ using store::Kind;
 namespace {
 
 constexpr int SelectNumber = 14, ShowEditNumber = 21, ListNumber = 28;
-
-void fail(const QString& words) {
-    std::printf("%s\n", qPrintable(words));
-    std::exit(2);
-}
-
-struct Desk {
-    explicit Desk(const QString& folder)
-        : boxes(fail), files(fail), printers(folder + u"/list.pdf"_s), program(boxes, files, printers),
-          hands(program, fail) {
-        forms::LookStyle::install(program.scale);
-        program.window.resize(1100, 760);
-        program.window.Load(folder);
-        program.window.show();
-        hands.enter();
-    }
-
-    driver::ScriptedBoxes boxes;
-    driver::ScriptedFiles files;
-    printing::PdfPrinterDialogs printers;
-    app::Program program;
-    driver::Driver hands;
-};
 
 int selected(Desk& desk) { return desk.program.store.memory.of(Kind::Grabacion).ContSel; }
 
@@ -139,6 +114,7 @@ bool run(const QString& catalogue) {
         fail(u"No catalogue "_s + catalogue);
     Table table;
     Desk desk(folder.path());
+    desk.hands.enter();
     select(table, desk, file);
     list(table, desk);
     walk(table, desk);

@@ -4,10 +4,8 @@
 //   build/bench/bench/zv_bench_screens
 //
 // Ends with 1 if a target is missed. With "--start FOLDER NANOSECONDS" it is the process whose start is measured.
-#include "driver/driver.h"
+#include "desk.h"
 #include "measure.h"
-#include "platform/forms/look_style.h"
-#include "platform/printing/printer_dialog.h"
 #include "screen_catalogue.h"
 #include "store/messages.h"
 #include <QApplication>
@@ -27,43 +25,6 @@ constexpr int Rows = 32000, FewRows = 1000;
 constexpr double Frame = 1.0 / 60;
 
 qint64 nanoseconds() { return std::chrono::steady_clock::now().time_since_epoch().count(); }
-
-void fail(const QString& words) {
-    std::printf("%s\n", qPrintable(words));
-    std::exit(2);
-}
-
-/// A program on a catalogue, past its presentation.
-struct Desk {
-    explicit Desk(const QString& folder)
-        : boxes(fail), files(fail), printers(folder + u"/list.pdf"_s), program(boxes, files, printers),
-          hands(program, fail) {
-        forms::LookStyle::install(program.scale);
-        program.window.resize(1100, 760);
-        program.window.Load(folder);
-        program.window.show();
-    }
-    void list(int screen) {
-        hands.go(screen);
-        QStringList fields;
-        auto& offered = hands.get<forms::CheckList>(u"List"_s);
-        for (int i = 0; i + 1 < offered.ListCount(); ++i) fields += offered.List(i);
-        hands.tick(fields);
-        hands.click(u"BtnListar"_s);
-    }
-    /// Turns to another page of the list and paints it.
-    void turnPage() {
-        auto& bar = hands.get<forms::ScrollBar>(u"VScroll"_s);
-        bar.setValue(bar.Value() == bar.Max() / 2 ? bar.Max() / 2 + 1 : bar.Max() / 2);
-        hands.get<forms::FlexGrid>(u"Tabla"_s).grab();
-    }
-
-    driver::ScriptedBoxes boxes;
-    driver::ScriptedFiles files;
-    printing::PdfPrinterDialogs printers;
-    app::Program program;
-    driver::Driver hands;
-};
 
 double medianSeconds(int rounds, const Work& work) {
     std::vector<double> seconds;
