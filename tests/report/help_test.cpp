@@ -3,6 +3,7 @@
 #include "report/help_page.h"
 #include "report/mock_ups.h"
 #include "support/desk.h"
+#include <QTextBlock>
 #include <QTextEdit>
 #include <QVersionNumber>
 #include <map>

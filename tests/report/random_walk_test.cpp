@@ -171,9 +171,9 @@ class RandomWalk : public ReportDesk, public ::testing::WithParamInterface<unsig
             }
             EXPECT_EQ(row(r.prefix), told + QString::number(order)) << r.prefix.toStdString();
             EXPECT_EQ(row(r.prefix), remembered(r.kind, QString::number(order))) << r.prefix.toStdString();
-            products_[0] += all * r.fields;
-            products_[1] += count.selected * r.fields;
-            products_[2] += count.selected * count.ticks;
+            products_[0] += qint64(all) * r.fields;
+            products_[1] += qint64(count.selected) * r.fields;
+            products_[2] += qint64(count.selected) * count.ticks;
         }
         QString told;
         for (const qint64 sum : sums) told += QString::number(sum) + u' ';

@@ -12,9 +12,11 @@
 namespace zv::test {
 
 class RecordedProgram : public ::testing::Test {
+  public:
+    ~RecordedProgram() override;
+
   protected:
     RecordedProgram();
-    ~RecordedProgram() override;
 
     /// What happened since the last call, one event a line.
     std::string events();

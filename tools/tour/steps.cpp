@@ -35,7 +35,6 @@ std::vector<Step> allSteps() {
         {"print-recording", printRecordings},
         {"report", readReport},
         {"help", readHelp},
-        {"help-1920x1080", readHelpLarge},
         {"every-tab", everyTab},
         {"window-712x626", smallWindow},
         {"window-1920x1080", largeWindow},

@@ -59,7 +59,6 @@ void printRecordings(Tour& tour);
 // Report, help, about: steps_report.cpp.
 void readReport(Tour& tour);
 void readHelp(Tour& tour);
-void readHelpLarge(Tour& tour);
 
 // The window: steps_window.cpp.
 void everyTab(Tour& tour);

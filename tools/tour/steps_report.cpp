@@ -68,24 +68,4 @@ void readHelp(Tour& tour) {
     hands.screen(u"FormAcercaDe"_s);
 }
 
-// Drawings, letters and words grow with the window.
-void readHelpLarge(Tour& tour) {
-    resize(tour, {1920, 1080});
-    const auto keep = [&tour](int number) { tour.photograph(u"large/%1"_s.arg(number)); };
-    tour.hands().go(ReportNumber);
-    keep(ReportNumber);
-    for (const std::vector<int>& chain : Chains) {
-        tour.hands().go(chain.front());
-        keep(chain.front());
-        for (std::size_t i = 1; i < chain.size(); ++i) {
-            tour.hands().click(u"BtnSiguiente"_s);
-            keep(chain[i]);
-        }
-        for (std::size_t i = 1; i < chain.size(); ++i) tour.hands().click(u"BtnAnterior"_s);
-    }
-    tour.hands().go(AboutNumber);
-    keep(AboutNumber);
-    resize(tour, {1100, 760});
-}
-
 } // namespace zv::tour

@@ -48,6 +48,7 @@ void resize(Tour& tour, QSize size) {
     QApplication::processEvents();
 }
 
+// Each screen in a small and in a large window.
 void everyTab(Tour& tour) {
     for (int number = FirstNumber; number <= LastNumber; ++number) {
         if (isFurtherPage(number))
@@ -56,7 +57,11 @@ void everyTab(Tour& tour) {
             tour.hands().go(number);
         tour.same(u"number of the screen"_s, number, tour.window().Solapas().VentanaMostrandose);
         tour.hands().screen(formName(number));
-        tour.photograph(u"screens/%1-"_s.arg(number, 2, 10, QChar(u'0')) + formName(number));
+        const QString picture = u"%1-"_s.arg(number, 2, 10, QChar(u'0')) + formName(number);
+        tour.photograph(u"screens/"_s + picture);
+        resize(tour, {1920, 1080}, 1.75);
+        tour.photograph(u"large/"_s + picture);
+        resize(tour, {1100, 760}, 1.0);
     }
     tour.photograph();
 }

@@ -30,7 +30,7 @@ class FlexGrid : public Control<QTableWidget> {
     void setNeverScrollsDown();
     /// The first column stays in its place while the horizontal bar moves the others under it.
     void setFirstColumnFixed();
-    /// Whether the lines of a column's cells are cut, not wrapped, so that they stand level with those of other columns.
+    /// Whether the lines of a column's cells are cut, not wrapped, to stand level with those of other columns.
     void setLinesLevel(int col, bool level);
     bool areLinesLevel(int col) const { return linesLevel_[std::size_t(col)]; }
     void setDefaultColWidth(int twips) { defaultWidth_ = twips; }
