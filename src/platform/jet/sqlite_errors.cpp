@@ -15,6 +15,8 @@ RuntimeError runtimeErrorOf(const SQLite::Exception& failure, const QString& pat
     };
     // An interrupted save that cannot be taken back for want of the right to write cannot be read either.
     const bool stuck = failure.getExtendedErrorCode() == SQLITE_READONLY_ROLLBACK;
+    // Another program has put another file in its place, by a compaction for instance.
+    if (failure.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED) return RuntimeError(3024);
     switch (stuck ? SQLITE_CANTOPEN : failure.getErrorCode() & 0xFF) {
     case SQLITE_FULL: return RuntimeError(3026);
     case SQLITE_READONLY: return RuntimeError(3027);

@@ -54,6 +54,7 @@ class PdfPrinter : public QtPrinter {
 std::unique_ptr<Printer> printInto(const QString& path, const QPageLayout& layout) {
     auto pdf = std::make_shared<PdfFile>(path);
     pdf->writer.setPageLayout(layout);
+    pdf->writer.setTitle(u"Zarvelia"_s);
     pdf->writer.setCreator(u"Zarvelia"_s);
     return std::make_unique<PdfPrinter>(std::move(pdf));
 }

@@ -25,8 +25,11 @@ std::unique_ptr<Printer> QtPrinterDialogs::ShowPrinter(const Document& document)
     }
     chosen_->setCopyCount(1);
 
-    PrinterBox box(chosen_, document, window());
+    QWidget* above = window();
+    PrinterBox box(chosen_, document, above);
     const bool accepted = box.exec() == QDialog::Accepted;
+    // With the preview two windows close at once, and a window manager may leave the focus with neither.
+    if (above) above->activateWindow();
     if (box.error() != 0) throw RuntimeError(box.error());
     if (!accepted) throw RuntimeError(PrinterCancel);
 

@@ -3,6 +3,7 @@
 #include "support/file_bytes.h"
 #include <QDir>
 #include <QFile>
+#include <cstdio>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -78,6 +79,19 @@ TEST_F(EngineTest, sharesOneConnectionAndClosesItWithTheLastUser) {
     EXPECT_EQ(errorOf([&] { catalogue.engine.CompactDatabase(catalogue.path, copy); }), 3356);
     database.reset();
     EXPECT_EQ(errorOf([&] { catalogue.engine.CompactDatabase(catalogue.path, copy); }), 0);
+}
+
+TEST_F(EngineTest, tellsThatAnotherFileHasTakenThePlaceOfItsOwn) {
+    DataControl control = catalogue.open(kAll);
+    const QString copy = at(u"ZVTemp.mdb"_s);
+    ASSERT_TRUE(QFile::copy(catalogue.path, copy));
+    ASSERT_EQ(std::rename(copy.toUtf8().constData(), catalogue.path.toUtf8().constData()), 0);
+    EXPECT_EQ(errorOf([&] {
+                  control.Recordset().AddNew();
+                  control.Recordset().Fields(u"Apellidos"_s).setValue(u"a"_s);
+                  control.Recordset().Update();
+              }),
+              3024);
 }
 
 TEST_F(EngineTest, readsWhatItMayNotWrite) {
