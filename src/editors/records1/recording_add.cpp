@@ -107,10 +107,7 @@ void FormReg1AnaGrabacion::BtnGuardar_Click() {
         MsgBox(store::MensaIntroducirIDentificador, box::Warning);
         return;
     }
-    // Read before anything is written: a full table ends here.
-    std::array<QStringList, PartCount> keys;
-    for (const int part : {ConductorPart, OrchestraPart, PerformerPart})
-        keys[std::size_t(part)] = groupKeys(group(part));
+    const auto groups = chosenGroups();
     Data().RecordSource = u"SELECT * FROM Grabacion "_s;
     Data().Refresh();
     if (Data().Recordset().RecordCount() != 0) Data().Recordset().MoveLast();
@@ -124,8 +121,7 @@ void FormReg1AnaGrabacion::BtnGuardar_Click() {
     Data().Recordset().MoveLast();
     const double recording = key();
     // A link that can't be written ends the save: what was written stays, and nothing is said.
-    for (const int part : {ConductorPart, OrchestraPart, PerformerPart}) {
-        if (writeLinks(part, keys[std::size_t(part)], recording)) continue;
+    if (!writeLinks(groups, recording)) {
         Limpiar();
         module1().ErrorBaseDatos = false;
         return;

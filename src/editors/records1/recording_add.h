@@ -24,7 +24,7 @@ class FormReg1AnaGrabacion : public RecordingScreen {
     void BtnDeshacer_Click();
     void saved();
     qint32& chosen(int part) { return module1().*partInfo(part).ana; }
-    store::FixedTable& group(int part) { return module1().*partInfo(part).group->ana; }
+    store::FixedTable& group(int part) override { return module1().*partInfo(part).group->ana; }
 
     forms::Button *BtnGuardar, *BtnDeshacer;
     forms::Label *LabNumRegNuevos, *LabNumRegTotal;

@@ -205,13 +205,22 @@ void RecordingScreen::writeRecording(bool add, qint32 composer, qint32 work, qin
     store().GrabarRegistro(store::info(Kind::Grabacion).channel, 4, add, campos_);
 }
 
-bool RecordingScreen::writeLinks(int part, const QStringList& keys, double recording) {
-    const PartGroup& group = *partInfo(part).group;
-    for (const QString& key : keys) {
-        campos_.set(0, u"IdGrabacion", CStr(recording));
-        campos_.set(1, group.keyColumn, key);
-        store().GrabarRegistro(group.linkChannel, 2, true, campos_);
-        if (module1().ErrorBaseDatos) return false;
+std::array<QStringList, PartCount> RecordingScreen::chosenGroups() {
+    std::array<QStringList, PartCount> keys;
+    for (const int part : {ConductorPart, OrchestraPart, PerformerPart})
+        keys[std::size_t(part)] = groupKeys(group(part));
+    return keys;
+}
+
+bool RecordingScreen::writeLinks(const std::array<QStringList, PartCount>& groups, double recording) {
+    for (const int part : {ConductorPart, OrchestraPart, PerformerPart}) {
+        const PartGroup& info = *partInfo(part).group;
+        for (const QString& key : groups[std::size_t(part)]) {
+            campos_.set(0, u"IdGrabacion", CStr(recording));
+            campos_.set(1, info.keyColumn, key);
+            store().GrabarRegistro(info.linkChannel, 2, true, campos_);
+            if (module1().ErrorBaseDatos) return false;
+        }
     }
     return true;
 }

@@ -61,13 +61,17 @@ class RecordingScreen : public shell::Screen {
 
     /// Fills Campos with the chosen keys and the notes, and writes the row of the recording.
     void writeRecording(bool add, qint32 composer, qint32 work, qint32 format);
-    /// Writes a link row for each key of a group. False after a failure.
-    bool writeLinks(int part, const QStringList& keys, double recording);
+    /// The keys of the composition's three groups: a full table ends here, before anything is written.
+    std::array<QStringList, PartCount> chosenGroups();
+    /// Writes a link row for each key, conductors, orchestras, performers in turn. False after a failure.
+    bool writeLinks(const std::array<QStringList, PartCount>& groups, double recording);
     /// Runs what a button of writing does; an error that is none of the catalogue's own is told, and ends it.
     void armed(const std::function<void()>& work);
     /// Removes all link rows of a recording, conductors, orchestras, performers in turn.
     void removeLinks(double recording);
 
+    /// A group of the composition of this screen.
+    virtual store::FixedTable& group(int part) = 0;
     /// The handlers that the two screens have of their own.
     virtual void Lab_Click(int part) = 0;
     virtual void Imagen_DblClick(int part) = 0;

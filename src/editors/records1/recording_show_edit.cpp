@@ -257,10 +257,7 @@ void FormReg1MosGrabacion::modify() {
         MsgBox(store::MensaIntroducirIDentificador, box::Warning);
         return;
     }
-    // Read before anything is removed: a full table ends here.
-    std::array<QStringList, PartCount> keys;
-    for (const int part : {ConductorPart, OrchestraPart, PerformerPart})
-        keys[std::size_t(part)] = groupKeys(group(part));
+    const auto groups = chosenGroups();
     openAlone(recording);
     removeLinks(recording);
     writeRecording(false, chosen(ComposerPart), chosen(WorkPart), chosen(FormatPart));
@@ -269,8 +266,7 @@ void FormReg1MosGrabacion::modify() {
         module1().ErrorBaseDatos = false;
         return;
     }
-    for (const int part : {ConductorPart, OrchestraPart, PerformerPart}) {
-        if (writeLinks(part, keys[std::size_t(part)], recording)) continue;
+    if (!writeLinks(groups, recording)) {
         module1().ErrorBaseDatos = false;
         return;
     }

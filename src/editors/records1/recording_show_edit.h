@@ -40,7 +40,7 @@ class FormReg1MosGrabacion : public RecordingScreen {
     void unlockTabs();
     void resetGroups(const QString& orchestraMark);
     qint32& chosen(int part) { return module1().*partInfo(part).mos; }
-    store::FixedTable& group(int part) { return module1().*partInfo(part).group->mos; }
+    store::FixedTable& group(int part) override { return module1().*partInfo(part).group->mos; }
 
     RecordWalk walk_;
 };

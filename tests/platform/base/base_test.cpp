@@ -2,6 +2,7 @@
 #include "platform/base/files.h"
 #include "platform/base/runtime_error.h"
 #include "platform/base/text.h"
+#include "support/error_of.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -13,15 +14,7 @@ using namespace Qt::StringLiterals;
 namespace zv {
 namespace {
 
-template <class Work>
-int errorOf(Work&& work) {
-    try {
-        work();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-}
+using test::errorOf;
 
 TEST(Text, tellsNumbersFromOtherTexts) {
     struct Case {

@@ -3,12 +3,15 @@
 
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
+#include "support/error_of.h"
 #include "support/readable.h"
 #include <QPointer>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
 namespace zv::forms {
+
+using test::errorOf;
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +28,9 @@ class BenchForm : public Form {
 };
 
 class Bench : public ::testing::Test {
+  public:
+    ~Bench() override { setFatalErrorHandler(before_); }
+
   protected:
     Bench() {
         before_ = setFatalErrorHandler([this](const RuntimeError& error) { errors += error.number(); });
@@ -36,18 +42,7 @@ class Bench : public ::testing::Test {
         window.activateWindow();
         QCoreApplication::processEvents();
     }
-    ~Bench() override { setFatalErrorHandler(before_); }
 
-    /// The number of the run-time error that the work raises, 0 if it raises none.
-    template <class Work>
-    static int errorOf(Work&& work) {
-        try {
-            work();
-            return 0;
-        } catch (const RuntimeError& error) {
-            return error.number();
-        }
-    }
     /// Counts the events of a control.
     Handler counted() {
         return [this] { ++fired; };

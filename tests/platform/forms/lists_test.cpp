@@ -43,7 +43,7 @@ TYPED_TEST(BothLists, ChooseARowOnlyWhenAsked) {
     EXPECT_EQ(this->chosen(*list), u"1 b"_s);
     EXPECT_EQ(this->firedBy([&] { QTest::keyClick(list, Qt::Key_Down); }), 1);
     EXPECT_EQ(this->chosen(*list), u"2 c"_s);
-    for (const int bad : {-2, 4}) EXPECT_EQ(this->errorOf([&] { list->setListIndex(bad); }), 380);
+    for (const int bad : {-2, 4}) EXPECT_EQ(errorOf([&] { list->setListIndex(bad); }), 380);
     EXPECT_EQ(this->firedBy([&] { list->setListIndex(-1); }), 1);
     EXPECT_EQ(this->chosen(*list), u"-1 "_s);
     // The handler is told inside the setter, and may choose another row itself.

@@ -1,9 +1,9 @@
 // A small catalogue in a folder of its own, for the tests of the engine.
 #pragma once
 
-#include "platform/base/runtime_error.h"
 #include "platform/jet/data_control.h"
 #include "platform/jet/engine.h"
+#include "support/error_of.h"
 #include <QStringList>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -24,16 +24,7 @@ inline std::vector<TableDef> tableDefs() {
              {{QStringLiteral("IdGrabacion"), Number, 0, true}, {QStringLiteral("IdDirector"), Number, 0, true}}}};
 }
 
-/// The number of the run-time error that the work raises, 0 if it raises none.
-template <class Work>
-int errorOf(Work&& work) {
-    try {
-        work();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-}
+using zv::test::errorOf;
 
 /// Runs plain SQLite statements on a file, as any other tool would.
 inline void sqlite(const QString& path, const char* sql) {

@@ -1,7 +1,7 @@
 // The printer dialog with its paper, the preview, and the window that tells how far a print is.
-#include "platform/base/runtime_error.h"
 #include "platform/printing/preview_dialog.h"
 #include "platform/printing/printer_dialog.h"
+#include "support/error_of.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -25,14 +25,7 @@ using namespace zv::printing;
 
 namespace {
 
-int errorOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using test::errorOf;
 
 /// Does something with each dialog that comes up, in turn; a preview is waited for until it has made its pages.
 class Answers : public QObject {

@@ -1,9 +1,9 @@
 // The pen's rules, measuring, and the printer into a PDF.
-#include "platform/base/runtime_error.h"
 #include "platform/printing/measure.h"
 #include "platform/printing/printer_dialog.h"
 #include "platform/printing/qt_printer.h"
 #include "platform/printing/recording_printer.h"
+#include "support/error_of.h"
 
 #include <QApplication>
 #include <QFile>
@@ -24,14 +24,7 @@ using namespace zv::printing;
 
 namespace {
 
-int errorOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using test::errorOf;
 
 TEST(Pen, MovesBehindTextAndToTheNextLine) {
     RecordingPrinter printer;
